@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "gateway/console.h"
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace gateway {
+
+void complain(const QString& what) {
+    const QByteArray line = (u"smsgateway: "_s + what + u'\n').toLocal8Bit();
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+}
+
+} // namespace gateway
