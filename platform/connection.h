@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/sqlite_database.h"
+
+#include <QString>
+
+#include <memory>
+
+/// A connection to the database that `ConnectionString` names. Every operation throws DataError.
+class Connection {
+public:
+    enum class StateEnum { closed = 0, open = 1 };
+
+    QString ConnectionString;
+
+    void Open();
+    /// Closes; an unfinished transaction is rolled back.
+    void Close();
+    [[nodiscard]] StateEnum State() const;
+    /// Runs one statement and drops its rows.
+    void Execute(const QString& statement);
+
+    void BeginTrans();
+    void CommitTrans();
+
+private:
+    friend class Recordset;
+    [[nodiscard]] SqliteDatabase& database() const;
+
+    std::shared_ptr<SqliteDatabase> database_;
+};

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/sqlite_database.h"
+
+#include <memory>
+
+/// Physical connections kept per connection string, so that opening and closing a Connection is
+/// cheap. For the user-interface thread alone.
+namespace connection_pool {
+
+/// A connection of the caller's own until the last copy of the pointer goes; an unfinished
+/// transaction is then rolled back. Throws DataError as SqliteDatabase does.
+[[nodiscard]] std::shared_ptr<SqliteDatabase> acquire(const QString& connection_string);
+
+/// Closes every idle connection, which also folds the write-ahead log into the file.
+void clear();
+
+} // namespace connection_pool

@@ -1,0 +1,293 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/recordset.h"
+
+#include "platform/connection_pool.h"
+#include "platform/criterion.h"
+#include "platform/data_error.h"
+#include "platform/row_order.h"
+
+#include <QRegularExpression>
+
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+[[noreturn]] void raise_cursor(const QString& detail) {
+    throw DataError(DataError::Kind::cursor, detail);
+}
+
+void append_cell(RowStore& store, sqlite3_stmt* row, int column) {
+    switch (sqlite3_column_type(row, column)) {
+    case SQLITE_INTEGER:
+        store.append_integer(sqlite3_column_int64(row, column));
+        break;
+    case SQLITE_FLOAT:
+        store.append_real(sqlite3_column_double(row, column));
+        break;
+    case SQLITE_NULL:
+        store.append_null();
+        break;
+    default: {
+        const auto* bytes = static_cast<const char*>(sqlite3_column_blob(row, column));
+        store.append_text({bytes, static_cast<qsizetype>(sqlite3_column_bytes(row, column))});
+    }
+    }
+}
+
+void bind_cell(sqlite3_stmt* statement, int parameter, const QVariant& value) {
+    if (value.isNull()) {
+        sqlite3_bind_null(statement, parameter);
+    } else if (value.typeId() == QMetaType::QString) {
+        const QByteArray utf8 = value.toString().toUtf8();
+        sqlite3_bind_text(statement, parameter, utf8.constData(), static_cast<int>(utf8.size()),
+                          SQLITE_TRANSIENT);
+    } else if (value.typeId() == QMetaType::Double) {
+        sqlite3_bind_double(statement, parameter, value.toDouble());
+    } else {
+        sqlite3_bind_int64(statement, parameter, value.toLongLong());
+    }
+}
+
+/// The table of "select * from TABLE …", or nothing for any other statement.
+QRegularExpressionMatch match_table_query(const QString& statement) {
+    static const QRegularExpression pattern(
+        uR"(^\s*select\s*\*\s*from\s+(?:\[([^\]]+)\]|(\w+))(.*)$)"_s,
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    return pattern.match(statement);
+}
+
+} // namespace
+
+void Recordset::set_ActiveConnection(const QString& connection_string) {
+    connection_string_ = connection_string;
+    database_.reset();
+}
+
+void Recordset::set_ActiveConnection(const Connection& connection) {
+    static_cast<void>(connection.database());
+    connection_string_.clear();
+    database_ = connection.database_;
+}
+
+void Recordset::detach() {
+    connection_string_.clear();
+    database_.reset();
+}
+
+SqliteDatabase& Recordset::database() {
+    if (!database_) {
+        if (connection_string_.isEmpty()) {
+            raise_cursor(u"the record set has no connection"_s);
+        }
+        database_ = connection_pool::acquire(connection_string_);
+    }
+    return *database_;
+}
+
+void Recordset::Open(const QString& source) {
+    if (state_ == StateEnum::open) {
+        raise_cursor(u"the record set is open already"_s);
+    }
+    const bool whole_table = !source.trimmed().contains(u' ');
+    const QString statement = whole_table ? u"select * from [%1]"_s.arg(source.trimmed()) : source;
+    table_.clear();
+    const auto table = match_table_query(statement);
+    if (LockType == LockTypeEnum::optimistic && table.hasMatch()) {
+        table_ = table.captured(table.capturedLength(1) > 0 ? 1 : 2);
+        read_rows(u"select rowid, * from [%1]%2"_s.arg(table_, table.captured(3)));
+    } else {
+        read_rows(statement);
+    }
+    state_ = StateEnum::open;
+    position_ = 0;
+}
+
+void Recordset::read_rows(const QString& statement) {
+    const SqliteDatabase::statement rows = database().prepare(statement);
+    const int first = table_.isEmpty() ? 0 : 1;
+    const int columns = sqlite3_column_count(rows.get());
+    QStringList names;
+    for (int i = first; i < columns; ++i) {
+        names.append(QString::fromUtf8(sqlite3_column_name(rows.get(), i)));
+    }
+    RowStore store(names);
+    std::vector<qint64> row_ids;
+    while (database().step(rows)) {
+        if (first == 1) {
+            row_ids.push_back(sqlite3_column_int64(rows.get(), 0));
+        }
+        for (int i = first; i < columns; ++i) {
+            append_cell(store, rows.get(), i);
+        }
+    }
+    store_ = std::move(store);
+    row_ids_ = std::move(row_ids);
+    order_.clear();
+    dirty_.clear();
+}
+
+void Recordset::Close() {
+    require_open();
+    store_ = RowStore();
+    order_.clear();
+    row_ids_.clear();
+    dirty_.clear();
+    state_ = StateEnum::closed;
+    database_.reset();
+}
+
+Recordset::StateEnum Recordset::State() const {
+    return state_;
+}
+
+bool Recordset::Bof() const {
+    require_open();
+    return position_ < 0 || RecordCount() == 0;
+}
+
+bool Recordset::Eof() const {
+    require_open();
+    return position_ >= RecordCount();
+}
+
+void Recordset::MoveFirst() {
+    require_open();
+    if (RecordCount() == 0) {
+        raise_cursor(u"the record set is empty"_s);
+    }
+    position_ = 0;
+}
+
+void Recordset::MoveNext() {
+    if (Eof()) {
+        raise_cursor(u"the record set is at its end"_s);
+    }
+    ++position_;
+}
+
+qsizetype Recordset::RecordCount() const {
+    return store_.rows();
+}
+
+qsizetype Recordset::position() const {
+    return position_;
+}
+
+void Recordset::set_position(qsizetype row) {
+    require_open();
+    position_ = qBound<qsizetype>(-1, row, RecordCount());
+}
+
+void Recordset::Find(const QString& criterion, qsizetype skip, SearchDirectionEnum direction) {
+    require_open();
+    const Criterion wanted(criterion, store_);
+    if (Bof() || Eof()) {
+        raise_cursor(u"there is no current row to search from"_s);
+    }
+    const auto step = static_cast<qsizetype>(direction);
+    qsizetype row = position_ + skip * step;
+    while (row >= 0 && row < RecordCount() && !wanted.matches(store_, store_row(row))) {
+        row += step;
+    }
+    set_position(row);
+}
+
+void Recordset::set_Sort(const QString& order) {
+    require_open();
+    order_ = sorted_rows(store_, order);
+    position_ = 0;
+}
+
+QVariant Recordset::Fields(const QString& name) const {
+    return store_.value(current_row(), require_column(name));
+}
+
+void Recordset::set_Fields(const QString& name, const QVariant& value) {
+    const qsizetype column = require_column(name);
+    store_.set_value(current_row(), column, value);
+    dirty_.push_back(column);
+}
+
+void Recordset::AddNew() {
+    require_open();
+    store_.append_row();
+    row_ids_.push_back(0);
+    if (!order_.empty()) {
+        order_.push_back(static_cast<qint32>(store_.rows() - 1));
+    }
+    position_ = store_.rows() - 1;
+}
+
+void Recordset::Update() {
+    const qsizetype row = current_row();
+    if (table_.isEmpty()) {
+        throw DataError(DataError::Kind::statement, u"the record set is read-only"_s);
+    }
+    if (row_ids_.at(static_cast<size_t>(row)) == 0) {
+        store_new_row(row);
+    } else if (!dirty_.empty()) {
+        store_changed_row(row);
+    }
+    dirty_.clear();
+}
+
+void Recordset::store_new_row(qsizetype row) {
+    QStringList names;
+    QStringList marks;
+    for (const qsizetype column : dirty_) {
+        names.append(u"[%1]"_s.arg(store_.columns().at(column)));
+        marks.append(u"?"_s);
+    }
+    const auto statement = database().prepare(
+        u"INSERT INTO [%1] (%2) values (%3)"_s.arg(table_, names.join(u','), marks.join(u',')));
+    int parameter = 0;
+    for (const qsizetype column : dirty_) {
+        bind_cell(statement.get(), ++parameter, store_.value(row, column));
+    }
+    database().step(statement);
+    row_ids_.at(static_cast<size_t>(row)) = database().last_insert_rowid();
+}
+
+void Recordset::store_changed_row(qsizetype row) {
+    QStringList settings;
+    for (const qsizetype column : dirty_) {
+        settings.append(u"[%1]=?"_s.arg(store_.columns().at(column)));
+    }
+    const auto statement =
+        database().prepare(u"update [%1] set %2 where rowid=?"_s.arg(table_, settings.join(u',')));
+    int parameter = 0;
+    for (const qsizetype column : dirty_) {
+        bind_cell(statement.get(), ++parameter, store_.value(row, column));
+    }
+    bind_cell(statement.get(), ++parameter, QVariant(row_ids_.at(static_cast<size_t>(row))));
+    database().step(statement);
+}
+
+qsizetype Recordset::store_row(qsizetype row) const {
+    return order_.empty() ? row : order_.at(static_cast<size_t>(row));
+}
+
+void Recordset::require_open() const {
+    if (state_ == StateEnum::closed) {
+        raise_cursor(u"the record set is closed"_s);
+    }
+}
+
+qsizetype Recordset::current_row() const {
+    if (Bof() || Eof()) {
+        raise_cursor(u"there is no current row"_s);
+    }
+    return store_row(position_);
+}
+
+qsizetype Recordset::require_column(const QString& name) const {
+    const qsizetype column = store_.column(name);
+    if (column < 0) {
+        raise_cursor(u"no field \"%1\""_s.arg(name));
+    }
+    return column;
+}

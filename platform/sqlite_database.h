@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+/// One physical connection to a database file. Opened connections wait for another program's lock
+/// up to `lock_wait_ms` and make every commit durable before it returns.
+class SqliteDatabase {
+public:
+    /// How long a statement waits for a lock, in milliseconds.
+    static constexpr int lock_wait_ms = 3000;
+
+    enum class Mode { existing, create };
+
+    /// Opens the file; `create` makes an empty one, readable by its owner alone, where there is
+    /// none. Throws DataError (missing_file, cannot_open, old_format, not_a_database).
+    explicit SqliteDatabase(const QString& path, Mode mode = Mode::existing);
+    ~SqliteDatabase();
+    Q_DISABLE_COPY_MOVE(SqliteDatabase)
+
+    struct statement_deleter {
+        void operator()(sqlite3_stmt* statement) const noexcept;
+    };
+    using statement = std::unique_ptr<sqlite3_stmt, statement_deleter>;
+
+    /// Compiles exactly one statement (Jet's forms translated); anything behind it is refused.
+    [[nodiscard]] statement prepare(const QString& sql);
+    /// One step; true when there is a row. Throws DataError.
+    bool step(const statement& prepared);
+    /// Prepares and runs one statement to its end.
+    void execute(const QString& sql);
+    /// Runs several statements separated by ";" as they stand.
+    void execute_script(const char* sql);
+
+    [[nodiscard]] qint64 last_insert_rowid() const;
+    [[nodiscard]] bool in_transaction() const;
+    /// The file under the open connection was deleted, renamed or replaced since.
+    [[nodiscard]] bool moved() const;
+
+private:
+    void open(const QString& path, Mode mode);
+    [[noreturn]] void raise() const;
+
+    struct handle_deleter {
+        void operator()(sqlite3* handle) const noexcept;
+    };
+    std::unique_ptr<sqlite3, handle_deleter> handle_;
+};

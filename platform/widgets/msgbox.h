@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+/// Modal message boxes; the only way by which the system speaks to the operator. Texts are shown as
+/// plain text to the letter.
+namespace msgbox {
+
+/// Information symbol, OK.
+void information(const QString& text, const QString& title);
+/// Stop symbol, OK.
+void critical(const QString& text, const QString& title);
+/// No symbol, OK.
+void plain(const QString& text, const QString& title);
+/// No symbol, Yes and No; true for Yes.
+[[nodiscard]] bool yes_no(const QString& text, const QString& title);
+
+} // namespace msgbox

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/winsock.h"
+
+Winsock::Winsock(QObject* parent) : QObject(parent) {
+    connect(&socket_, &QTcpSocket::stateChanged, this, &Winsock::follow);
+    connect(&socket_, &QTcpSocket::errorOccurred, this, &Winsock::fail);
+    connect(&socket_, &QTcpSocket::readyRead, this, &Winsock::DataArrival);
+}
+
+void Winsock::Connect() {
+    if (state_ != StateEnum::closed) {
+        throw Error("the socket is not closed");
+    }
+    if (RemoteHost.isEmpty() || RemotePort < 1 || RemotePort > 65535) {
+        throw Error("no host, or a port out of range");
+    }
+    socket_.connectToHost(RemoteHost, static_cast<quint16>(RemotePort));
+}
+
+void Winsock::Close() {
+    socket_.abort();
+    state_ = StateEnum::closed;
+}
+
+void Winsock::SendData(const QByteArray& bytes) {
+    if (state_ != StateEnum::connected) {
+        throw Error("the socket is not connected");
+    }
+    socket_.write(bytes);
+    socket_.flush();
+}
+
+QByteArray Winsock::GetData() {
+    return socket_.readAll();
+}
+
+void Winsock::follow(QAbstractSocket::SocketState state) {
+    switch (state) {
+    case QAbstractSocket::HostLookupState:
+        state_ = StateEnum::resolving_host;
+        break;
+    case QAbstractSocket::ConnectingState:
+        state_ = StateEnum::connecting;
+        break;
+    case QAbstractSocket::ConnectedState:
+        state_ = StateEnum::connected;
+        // Frames are small and each waits for an answer: the system must not hold them back.
+        socket_.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+        break;
+    default:
+        break; // how a connection ended is told by fail()
+    }
+}
+
+void Winsock::fail(QAbstractSocket::SocketError error) {
+    state_ =
+        error == QAbstractSocket::RemoteHostClosedError ? StateEnum::closing : StateEnum::error;
+}
