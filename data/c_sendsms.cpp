@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "data/c_sendsms.h"
+
+#include "data/nvltrim.h"
+#include "data/strconn.h"
+#include "platform/conversion.h"
+
+using namespace Qt::StringLiterals;
+
+void c_sendsms::openrs(Recordset& rs) const {
+    open_detached(rs, u"SELECT * From vwsendsms"_s);
+}
+
+void c_sendsms::searchsms(m_sendsmses& queue) const {
+    const QDateTime moment = now();
+    Recordset rs;
+    open_detached(rs, u"SELECT  * From vwsendsms where sendisok=0 and stime < #%1#"_s.arg(
+                          fmtdatetime(moment)));
+    // By position: this runs over every pending message at every poll.
+    const RowStore& rows = rs.store();
+    const qsizetype id = rs.column(u"smsid");
+    const qsizetype mobile = rs.column(u"mobile");
+    const qsizetype sms = rs.column(u"sms");
+    const QDateTime today = moment.date().startOfDay();
+    for (qsizetype row = 0; row < rows.rows(); ++row) {
+        const qint16 smsid = to_int16(rows.value(row, id));
+        if (!queue.contains(smsid)) {
+            queue.Add({}, today, today, false, rows.text(row, sms), 1, rows.text(row, mobile),
+                      smsid);
+        }
+    }
+}
+
+std::optional<m_sendsms> c_sendsms::getrec(qint16 smsid) const {
+    return read_one(u"SELECT * From vwsendsms where smsid=%1"_s.arg(literal(smsid)),
+                    [](const Recordset& rs) {
+                        return m_sendsms{.smsid = to_int16(rs.Fields(u"smsid"_s)),
+                                         .mobile = nvltrim(rs.Fields(u"mobile"_s)),
+                                         .cid = to_int16(rs.Fields(u"cid"_s)),
+                                         .sms = nvltrim(rs.Fields(u"sms"_s)),
+                                         .sendisok = to_boolean(rs.Fields(u"sendisok"_s)),
+                                         .rtime = to_datetime(rs.Fields(u"rtime"_s)),
+                                         .stime = to_datetime(rs.Fields(u"stime"_s)),
+                                         .cname = nvltrim(rs.Fields(u"cname"_s)),
+                                         .smsfrom = to_boolean(rs.Fields(u"smsfrom"_s)),
+                                         .imsend = to_boolean(rs.Fields(u"imsend"_s))};
+                    });
+}
+
+bool c_sendsms::addrec(const QString& mobile, qint16 cid, const QString& sms, bool sendisok,
+                       const QDateTime& rtime, const QDateTime& stime, bool smsfrom,
+                       bool imsend) const {
+    return execute(
+        connection,
+        u"INSERT INTO sendsms (mobile,  sms,cid, sendisok,  smsfrom, imsend, rtime, stime) values (%1,%2,%3,%4,%5,%6,%7,%8)"_s,
+        mobile, sms, cid, sendisok, smsfrom, imsend, rtime, stime);
+}
+
+bool c_sendsms::updaterec(qint16 smsid, const QString& mobile, qint16 cid, const QString& sms,
+                          const QDateTime& stime) const {
+    return execute(strconn, u"update sendsms set mobile=%2,sms=%3,cid=%4,stime=%5 where smsid=%1"_s,
+                   smsid, mobile, sms, cid, stime);
+}
+
+bool c_sendsms::deleterec(qint16 smsid) const {
+    return execute(strconn, u"delete from sendsms where smsid=%1"_s, smsid);
+}
+
+bool c_sendsms::sended(qint16 smsid) const {
+    return execute(strconn, u"update sendsms set sendisok=-1  where smsid=%1"_s, smsid);
+}

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "data/c_smsm.h"
+
+#include "data/nvltrim.h"
+#include "data/strconn.h"
+#include "platform/conversion.h"
+
+using namespace Qt::StringLiterals;
+
+void c_smsm::openrs(Recordset& rs) const {
+    open_detached(rs, u"SELECT mid, text From smsmodels"_s);
+}
+
+void c_smsm::searchsms(const QString& text, Recordset& rs) const {
+    rs.Open(u"SELECT mid, text From m_smsmodels where text like %1"_s.arg(literal(text)));
+}
+
+std::optional<m_smsmodel> c_smsm::getrec(qint16 mid) const {
+    return read_one(u"SELECT mid, text From smsmodels where mid=%1"_s.arg(literal(mid)),
+                    [](const Recordset& rs) {
+                        return m_smsmodel{.text = nvltrim(rs.Fields(u"text"_s)),
+                                          .mid = to_int16(rs.Fields(u"mid"_s))};
+                    });
+}
+
+bool c_smsm::addrec(const QString& text) const {
+    return execute(connection, u"INSERT INTO smsmodels (text) values (%1)"_s, text);
+}
+
+bool c_smsm::updaterec(const QString& text, qint16 mid) const {
+    return execute(strconn, u"update smsmodels set text=%1 where mid=%2"_s, text, mid);
+}
+
+bool c_smsm::deleterec(qint16 mid) const {
+    return execute(strconn, u"delete from smsmodels where mid=%1"_s, mid);
+}

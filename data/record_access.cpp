@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "data/record_access.h"
+
+#include "platform/connection.h"
+
+void record_access::execute_statement(const QString& connection_string, const QString& statement) {
+    Connection connection;
+    connection.ConnectionString = connection_string;
+    connection.Open();
+    connection.Execute(statement);
+    connection.Close();
+}
+
+void record_access::open_detached(Recordset& rs, const QString& statement) const {
+    rs.set_ActiveConnection(connection);
+    rs.LockType = Recordset::LockTypeEnum::read_only;
+    rs.Open(statement);
+    rs.detach();
+}
