@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "listview/column_chooser.h"
+
+#include "listview/dialog_buttons.h"
+#include "listview/spListHeaders.h"
+#include "platform/widgets/msgbox.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+column_chooser::column_chooser(const spListHeaders& headers, const QString& caption,
+                               const QString& options_caption, const QString& first_option,
+                               const QString& second_option, QWidget* parent)
+    : QDialog(parent),
+      ComboColName(new QComboBox(this)),
+      ComboKey(new QComboBox(this)),
+      form_(new QFormLayout),
+      options_{new QRadioButton(first_option, this), new QRadioButton(second_option, this)} {
+    setWindowTitle(caption);
+    ComboColName->setObjectName(u"ComboColName"_s);
+    ComboKey->setObjectName(u"ComboKey"_s);
+    ComboKey->hide();
+    for (const spListHeader& column : headers) {
+        ComboColName->addItem(column.caption);
+        ComboKey->addItem(column.key);
+    }
+    ComboColName->setCurrentIndex(-1);
+    ComboColName->setMinimumContentsLength(14);
+
+    auto* frame = new QGroupBox(options_caption, this);
+    frame->setObjectName(u"Frame1"_s);
+    auto* options = new QHBoxLayout(frame);
+    for (QRadioButton* option : options_) {
+        options->addWidget(option);
+    }
+    options_[0]->setObjectName(u"Option1_0"_s);
+    options_[1]->setObjectName(u"Option1_1"_s);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(form_);
+    layout->addWidget(frame);
+    layout->addStretch();
+    add_row(u"列名："_s, ComboColName);
+    choose_option(0);
+
+    const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
+    buttons.ok->setObjectName(u"cmdOK"_s);
+    buttons.cancel->setObjectName(u"cmdCancel"_s);
+    connect(buttons.ok, &QPushButton::clicked, this, &column_chooser::confirm);
+}
+
+void column_chooser::add_row(const QString& label, QWidget* field) {
+    form_->addRow(label, field);
+    field->setAccessibleName(label);
+    if (last_field_ != nullptr) {
+        setTabOrder(last_field_, field);
+    }
+    last_field_ = field;
+}
+
+void column_chooser::choose_option(int index) {
+    options_[index]->setChecked(true);
+}
+
+bool column_chooser::is_first_option() const {
+    return options_[0]->isChecked();
+}
+
+void column_chooser::confirm() {
+    if (ComboColName->currentText().isEmpty()) {
+        if (ComboColName->count() < 2) {
+            msgbox::information(u"请先选择列名！"_s, u"提示"_s);
+            return;
+        }
+        ComboColName->setCurrentIndex(1);
+    }
+    ComboKey->setCurrentIndex(ComboColName->currentIndex());
+    confirmed = true;
+    result = make_result(ComboKey->currentText());
+    accept();
+}

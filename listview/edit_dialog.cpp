@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "listview/edit_dialog.h"
+
+#include "listview/dialog_buttons.h"
+#include "platform/conversion.h"
+#include "platform/data_error.h"
+#include "platform/widgets/msgbox.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The two kinds of box under one pair of names.
+QString box_text(const QLineEdit& box) {
+    return box.text();
+}
+QString box_text(const QPlainTextEdit& box) {
+    return box.toPlainText();
+}
+void set_box_text(QLineEdit& box, const QString& text) {
+    box.setText(text);
+}
+void set_box_text(QPlainTextEdit& box, const QString& text) {
+    box.setPlainText(text);
+}
+
+/// Saves only what was changed: a box normalises line breaks and shortens what is too long for it.
+template <class Box>
+std::function<void()> save_if_changed(const Box* box, const std::shared_ptr<QString>& shown,
+                                      QString& field) {
+    return [box, shown, &field] {
+        if (box_text(*box) != *shown) {
+            *shown = box_text(*box);
+            field = *shown;
+        }
+    };
+}
+
+template <class Box>
+std::function<void()> show_field(Box* box, const std::shared_ptr<QString>& shown,
+                                 const QString& field) {
+    return [box, shown, &field] {
+        set_box_text(*box, field);
+        *shown = box_text(*box);
+    };
+}
+
+} // namespace
+
+edit_dialog::edit_dialog(const QString& caption, QWidget* parent)
+    : QDialog(parent), form_(new QFormLayout) {
+    setWindowTitle(caption);
+    form_->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(form_);
+}
+
+bool edit_dialog::ask() {
+    if (!loaded_) {
+        load();
+        loaded_ = true;
+    }
+    okflag = u"False"_s;
+    exec();
+    return okflag == "True"_L1;
+}
+
+void edit_dialog::add_row(const QString& name, const QString& label, QWidget* box) {
+    box->setObjectName(name);
+    box->setAccessibleName(label);
+    auto* row = new QHBoxLayout; // leaves room for a picker button
+    row->addWidget(box);
+    auto* caption = new QLabel(label, this);
+    caption->setObjectName(u"lblLabels"_s);
+    caption->setBuddy(box);
+    form_->addRow(caption, row);
+}
+
+QLineEdit* edit_dialog::add_number(const QString& name, const QString& label, qint16& field) {
+    return add_converted(
+        name, label, [&field] { return QString::number(field); },
+        [&field](const QString& text) { field = to_int16(text); });
+}
+
+QLineEdit* edit_dialog::add_converted(const QString& name, const QString& label,
+                                      std::function<QString()> load,
+                                      std::function<void(const QString&)> save) {
+    auto* box = new QLineEdit(this);
+    add_row(name, label, box);
+    bindings_.push_back({box, [box, load = std::move(load)] { box->setText(load()); },
+                         [box, save = std::move(save)] { save(box->text()); }});
+    return box;
+}
+
+QLineEdit* edit_dialog::add_line(const QString& name, const QString& label, QString& field) {
+    auto* box = new QLineEdit(this);
+    add_row(name, label, box);
+    const auto shown = std::make_shared<QString>();
+    bindings_.push_back({box, show_field(box, shown, field), save_if_changed(box, shown, field)});
+    return box;
+}
+
+QPlainTextEdit* edit_dialog::add_text(const QString& name, const QString& label, QString& field) {
+    auto* box = new QPlainTextEdit(this);
+    box->setTabChangesFocus(true);
+    box->setMinimumHeight(fontMetrics().lineSpacing() * 5);
+    add_row(name, label, box);
+    const auto shown = std::make_shared<QString>();
+    bindings_.push_back({box, show_field(box, shown, field), save_if_changed(box, shown, field)});
+    return box;
+}
+
+QPushButton* edit_dialog::add_picker_button(const QString& name, QWidget& box,
+                                            const QString& purpose) {
+    auto* button = new QPushButton(u"…"_s, this);
+    button->setObjectName(name);
+    button->setToolTip(purpose);
+    button->setAccessibleName(purpose);
+    button->setAutoDefault(false);
+    button->setFixedWidth(button->fontMetrics().averageCharWidth() * 6);
+    for (int i = 0; i < form_->rowCount(); ++i) {
+        auto* row = qobject_cast<QHBoxLayout*>(form_->itemAt(i, QFormLayout::FieldRole)->layout());
+        if (row->itemAt(0)->widget() == &box) {
+            row->addWidget(button, 0, Qt::AlignTop);
+        }
+    }
+    setTabOrder(&box, button);
+    return button;
+}
+
+void edit_dialog::finish(QWidget& first_box) {
+    first_box_ = &first_box;
+    const dialog_buttons buttons =
+        add_buttons(*this, *qobject_cast<QVBoxLayout*>(layout()), u"保存"_s, u"取消"_s);
+    buttons.ok->setObjectName(u"cmdok"_s);
+    buttons.cancel->setObjectName(u"cmdcancel"_s);
+    connect(buttons.ok, &QPushButton::clicked, this, &edit_dialog::save);
+    // Enter breaks the line in a box of several lines; Ctrl+Enter saves from everywhere.
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), this), &QShortcut::activated,
+            buttons.ok, &QPushButton::click);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+}
+
+void edit_dialog::load() {
+    before_load();
+    for (const binding& bound : bindings_) {
+        bound.load();
+    }
+}
+
+void edit_dialog::save() {
+    for (const binding& bound : bindings_) {
+        try {
+            bound.save();
+        } catch (const DataError&) {
+            report_conversion();
+            bound.box->setFocus();
+            return;
+        }
+    }
+    okflag = u"True"_s;
+    accept();
+}
+
+void edit_dialog::report_conversion() {
+    msgbox::critical(u"输入错误"_s, u"输入错误"_s);
+}
+
+void edit_dialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    first_box_->setFocus();
+    if (auto* line = qobject_cast<QLineEdit*>(first_box_)) {
+        line->selectAll();
+    } else if (auto* text = qobject_cast<QPlainTextEdit*>(first_box_)) {
+        text->selectAll();
+    }
+}

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QDialog>
+
+#include <functional>
+#include <vector>
+
+class QFormLayout;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+
+/// The base of every edit dialog: a form of boxes bound to the fields of a record, "保存" and
+/// "取消", and the flag that tells the caller which of them was pressed. The dialog only turns one
+/// record into another; whoever shows it checks and saves.
+class edit_dialog : public QDialog {
+    Q_OBJECT
+
+public:
+    /// "True" after the save button, "False" otherwise.
+    QString okflag;
+
+    /// Shows the dialog modally and waits; true when the operator saved. The record is shown the
+    /// first time; later the boxes keep what was typed.
+    [[nodiscard]] bool ask();
+
+protected:
+    edit_dialog(const QString& caption, QWidget* parent);
+
+    // Each adds a labelled row; its box is named `name` and bound to `field`, which must live as
+    // long as the dialog. A box that the operator leaves alone leaves its field alone.
+
+    /// A number box; on saving, its text must be a 16-bit number.
+    QLineEdit* add_number(const QString& name, const QString& label, qint16& field);
+    QLineEdit* add_line(const QString& name, const QString& label, QString& field);
+    /// A box of several lines.
+    QPlainTextEdit* add_text(const QString& name, const QString& label, QString& field);
+    /// A box with conversions of its own; `save` throws DataError for a text that it cannot read.
+    QLineEdit* add_converted(const QString& name, const QString& label,
+                             std::function<QString()> load,
+                             std::function<void(const QString&)> save);
+
+    /// Puts a small button "…" behind a box.
+    QPushButton* add_picker_button(const QString& name, QWidget& box, const QString& purpose);
+    /// Ends the form with its buttons; called last by the constructor.
+    void finish(QWidget& first_box);
+
+    /// Fills record fields that depend on the moment of showing; called before the boxes are
+    /// filled.
+    virtual void before_load() {}
+    /// Tells the operator that a box cannot be converted.
+    virtual void report_conversion();
+
+    void showEvent(QShowEvent* event) override;
+
+private:
+    struct binding {
+        QWidget* box;
+        std::function<void()> load;
+        std::function<void()> save;
+    };
+
+    void add_row(const QString& name, const QString& label, QWidget* box);
+    void load();
+    void save();
+
+    QFormLayout* form_;
+    std::vector<binding> bindings_;
+    QWidget* first_box_ = nullptr;
+    bool loaded_ = false;
+};

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "listview/spListHeaders.h"
+#include "listview/toolbar_builder.h"
+#include "platform/recordset.h"
+
+#include <QWidget>
+
+class DataGrid;
+class QAction;
+class QMdiArea;
+class QToolBar;
+class vc_in;
+
+/// The one kind of list window: a toolbar above a grid that shows the rows of one view. What is the
+/// entity's own it leaves to the controller.
+class frmdatagrid : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Loads the view and opens the rows. Throws DataError.
+    frmdatagrid(vc_in& controller, QString view_no, QWidget* parent = nullptr);
+    ~frmdatagrid() override;
+
+    void faddnew();
+    void Fedit();
+    void fdelete();
+    void fFind();
+    void fSort();
+    void fRefresh();
+    void FsaveLayout();
+    /// Opens the rows under the view's default condition: an entity's list shows all.
+    void fFilter();
+    /// Loads the view definition anew and applies it to the grid.
+    void updateField();
+    /// Opens the record set on the view's rows.
+    bool ResetCond(const spListHeaders& headers, Recordset& rows);
+    /// What the current row shows in the column with this key; empty when there is no such row or
+    /// column.
+    [[nodiscard]] QString value(const QString& column_key) const;
+
+private:
+    void press(const QString& key);
+    void close_window();
+    [[nodiscard]] qint16 current_id() const;
+    void restore_position(const QVariant& key, qsizetype row);
+
+    vc_in& controller_;
+    QString view_no_;
+    spListHeaders headers_;
+    Recordset rows_;
+    QString sort_;
+    image_list imlToolbarIcons;
+    QToolBar* Toolbar1;
+    DataGrid* DataGrid1;
+};
+
+/// Opens a list window in the frame, maximised. Throws DataError, and then opens none.
+void open_list_window(QMdiArea& windows, vc_in& controller, const QString& view_no);

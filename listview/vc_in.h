@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "listview/spListHeaders.h"
+#include "platform/recordset.h"
+
+#include <optional>
+
+/// What a list window and a picker button need of an entity: the interface of every controller.
+class vc_in {
+public:
+    vc_in() = default;
+    virtual ~vc_in() = default;
+    Q_DISABLE_COPY_MOVE(vc_in)
+
+    /// Opens a further list window over the entity's view. Throws DataError.
+    virtual void listall() = 0;
+    /// Creates records through the edit dialog; true when the operator ended with a saved one.
+    virtual bool createrec() = 0;
+    /// Edits the record with this key; true when it was saved.
+    virtual bool modifyrec(qint16 id) = 0;
+    /// Deletes the record with this key; true when it was deleted.
+    virtual bool deleterec(qint16 id) = 0;
+    /// Opens the record set on all rows of the entity's view. Throws DataError.
+    virtual void openrs(Recordset& rs) = 0;
+    virtual void search(const QVariant& column, const QVariant& value) = 0;
+    /// The name of the view's key column.
+    [[nodiscard]] virtual QString getidstring() const = 0;
+    /// Lets the operator pick one row; its values stand in the columns' `Other1`, empty when
+    /// nothing was picked. Nothing for an entity that cannot be picked. Throws DataError.
+    [[nodiscard]] virtual std::optional<spListHeaders> Ref() = 0;
+};
