@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "directory/FrmParameter.h"
+
+#include "platform/widgets/msgbox.h"
+
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+FrmParameter::FrmParameter(QWidget* parent) : edit_dialog(u"参数设置"_s, parent) {
+    auto* txtip = add_line(u"txtip"_s, u"短信服务器的IP地址："_s, record.ip);
+    add_number(u"txtport"_s, u"短信服务器的端口："_s, record.port);
+    finish(*txtip);
+}
+
+void FrmParameter::report_conversion() {
+    msgbox::critical(u"输入的参数错误，请检查！  "_s, u"输入错误"_s);
+}

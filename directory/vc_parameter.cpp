@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "directory/vc_parameter.h"
+
+#include "directory/FrmParameter.h"
+#include "listview/entity_loops.h"
+
+#include <QApplication>
+
+namespace {
+
+constexpr entity_messages texts{
+    .insert_failed = {},
+    .insert_succeeded = {},
+    .record_missing = u"不能修改参数, 记录不存在！",
+    .update_failed = u"修改参数不成功。 ",
+    .update_succeeded = u"成功地修改了参数。 ",
+    .delete_succeeded = {},
+    .delete_failed = {},
+};
+
+/// The port is a 16-bit number, so only the lower bound can ever refuse one.
+bool validate(FrmParameter& dialog) {
+    const int port = dialog.record.port;
+    if (port >= 0 && port <= 65535) {
+        return true;
+    }
+    dialog.report_conversion();
+    return false;
+}
+
+} // namespace
+
+bool vc_parameter::modifyrec(qint16 /*id*/) {
+    const auto found = records->getrec();
+    if (!found) {
+        report_missing(texts);
+        return false;
+    }
+    FrmParameter dialog(QApplication::activeWindow());
+    dialog.record = *found;
+    return edit_loop(
+        dialog, texts, [&] { return validate(dialog); },
+        [&] { return records->updaterec(dialog.record.ip, dialog.record.port); });
+}

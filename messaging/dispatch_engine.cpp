@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "messaging/dispatch_engine.h"
+
+#include "data/c_parameter.h"
+#include "data/c_recvedsms.h"
+#include "data/c_sendsms.h"
+#include "messaging/gateway_frame.h"
+
+namespace {
+
+// In milliseconds: as the timers stand at first, and after startTimer.
+constexpr int first_poll_interval = 60000;
+constexpr int first_reply_timeout = 10000;
+constexpr int started_poll_interval = 2000;
+constexpr int started_reply_timeout = 60000;
+
+/// A step that may fail without stopping the ones behind it: the link and the queue go on with what
+/// there is, and the next poll tries again.
+template <class Step>
+void try_step(const Step& step) {
+    try {
+        step();
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
+    }
+}
+
+} // namespace
+
+dispatch_engine::dispatch_engine(const collaborators& used, QObject* parent)
+    : QObject(parent), used_(used) {
+    Timer1.set_Interval(first_poll_interval);
+    Timer2.set_Enabled(false);
+    Timer2.set_Interval(first_reply_timeout);
+    connect(&Timer1, &IntervalTimer::Timer, this, &dispatch_engine::initsend);
+    connect(&Timer2, &IntervalTimer::Timer, this, &dispatch_engine::Timer2_Timer);
+    connect(&Winsock1, &Winsock::DataArrival, this, &dispatch_engine::Winsock1_DataArrival);
+}
+
+void dispatch_engine::startTimer() {
+    Timer1.set_Interval(started_poll_interval);
+    Timer2.set_Interval(started_reply_timeout);
+}
+
+void dispatch_engine::StopTomer() {
+    Timer1.set_Interval(0);
+    Timer2.set_Interval(0);
+}
+
+void dispatch_engine::initsend() {
+    try_step([this] {
+        if (!parameters_) {
+            parameters_ = used_.parameters.getrec();
+        }
+    });
+    try_step([this] { connect_when_closed(); });
+    try_step([this] { used_.outgoing.searchsms(used_.queue); });
+    sendsms();
+}
+
+void dispatch_engine::connect_when_closed() {
+    const Winsock::StateEnum state = Winsock1.State();
+    if (state != Winsock::StateEnum::closed && state != Winsock::StateEnum::closing) {
+        return;
+    }
+    Winsock1.Close();
+    Winsock1.RemoteHost = parameters_.value().ip;
+    Winsock1.RemotePort = parameters_.value().port;
+    Winsock1.Connect();
+}
+
+void dispatch_engine::sendsms() {
+    const m_sendsms* first = used_.queue.Item(1);
+    if (!sendready_ || first == nullptr) {
+        return;
+    }
+    sendready_ = false;
+    Timer2.set_Enabled(true);
+    // A message that cannot be written counts as in flight all the same; the time-out releases it.
+    try_step([this, first] {
+        Winsock1.SendData(
+            gateway_frame::to_bytes(gateway_frame::outgoing(first->mobile, first->sms)));
+    });
+}
+
+void dispatch_engine::sendend(const bool& ok) {
+    sendready_ = true;
+    Timer2.set_Enabled(false);
+    if (const m_sendsms* first = used_.queue.Item(1)) {
+        // A mark that cannot be written leaves the message pending: it is sent again, never lost.
+        if (ok) {
+            static_cast<void>(used_.outgoing.sended(first->smsid));
+        }
+        used_.queue.Remove(1);
+    }
+    sendsms();
+}
+
+void dispatch_engine::Timer2_Timer() {
+    sendready_ = true;
+    sendend(false);
+}
+
+void dispatch_engine::Winsock1_DataArrival() {
+    try_step([this] { take_frame(gateway_frame::from_bytes(Winsock1.GetData())); });
+}
+
+void dispatch_engine::take_frame(const QString& frame) {
+    if (frame.startsWith(u'0')) {
+        const gateway_frame::received message = gateway_frame::parse_received(frame);
+        static_cast<void>(used_.received.addrec(message.mobile, message.text, message.time, false));
+    } else if (frame.startsWith(u'1')) {
+        sendend(true);
+    } else if (frame.startsWith(u'2')) {
+        sendend(false);
+    }
+}
