@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "app/client.h"
+
+#include "app/application_title.h"
+#include "app/error_report.h"
+#include "app/frmLogin.h"
+#include "app/frmMain.h"
+#include "app/frmSplash.h"
+#include "data/schema.h"
+#include "data/strconn.h"
+#include "operators/rsclsuser.h"
+#include "platform/guarded.h"
+#include "platform/settings_store.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QTranslator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+template <class Screen, class Access>
+void wire(Screen& screen, Access& access) {
+    screen.records = &access;
+    access.connection = strconn;
+}
+
+} // namespace
+
+client::client()
+    : windows_(std::make_unique<QMdiArea>()),
+      phrase_screen_(*windows_),
+      customer_screen_(*windows_),
+      outgoing_screen_(*windows_, customer_screen_, phrase_screen_),
+      received_screen_(*windows_) {
+    wire(phrase_screen_, phrases_);
+    wire(customer_screen_, customers_);
+    wire(parameter_screen_, parameters_);
+    wire(outgoing_screen_, outgoing_);
+    wire(received_screen_, received_);
+}
+
+client::~client() = default;
+
+frmMain& client::open_main_window() {
+    main_window_ =
+        std::make_unique<frmMain>(std::move(windows_),
+                                  frmMain::controllers{.phrases = phrase_screen_,
+                                                       .customers = customer_screen_,
+                                                       .parameters = parameter_screen_,
+                                                       .outgoing = outgoing_screen_,
+                                                       .received = received_screen_},
+                                  dispatch_engine::collaborators{.parameters = parameters_,
+                                                                 .outgoing = outgoing_,
+                                                                 .received = received_,
+                                                                 .queue = queue_});
+    frmSplash splash(main_window_.get());
+    splash.show();
+    splash.repaint();
+    main_window_->show();
+    splash.hide();
+    return *main_window_;
+}
+
+std::optional<int> start_session(const QString& directory) {
+    try {
+        strconn = make_strconn(directory);
+        ensure_database(strconn);
+    } catch (const std::exception& error) {
+        show_error(error);
+        return 1;
+    }
+    // No server name outlives a restart.
+    settings_store::save(application_title(), settings_section(), u"connection"_s, {});
+    curuser = std::make_unique<rsclsuser>();
+    frmLogin login;
+    login.exec();
+    if (login.loginok) {
+        return std::nullopt;
+    }
+    releaseuser();
+    return login.failed ? 1 : 0;
+}
+
+void set_up_toolkit() {
+    QApplication::setWindowIcon(QIcon(u":/smscrm.svg"_s));
+    auto* chinese = new QTranslator(QCoreApplication::instance());
+    if (chinese->load(u":/translations/qtbase_zh_CN.qm"_s)) {
+        QCoreApplication::installTranslator(chinese);
+    }
+    error_edge::set_handler(show_error);
+}

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "data/c_customer.h"
+#include "data/c_parameter.h"
+#include "data/c_recvedsms.h"
+#include "data/c_sendsms.h"
+#include "data/c_smsm.h"
+#include "directory/vc_customer.h"
+#include "directory/vc_parameter.h"
+#include "directory/vc_smsm.h"
+#include "messaging/vc_recvedsms.h"
+#include "messaging/vc_sendsms.h"
+
+#include <QMdiArea>
+
+#include <memory>
+
+class frmMain;
+
+/// The composition root: makes the record-access objects, the controllers and the main window, and
+/// hands each what it needs. Lives until the process ends.
+class client {
+public:
+    client();
+    ~client();
+    Q_DISABLE_COPY_MOVE(client)
+
+    /// Makes the main window, shows it behind the splash picture, and returns it.
+    frmMain& open_main_window();
+
+private:
+    std::unique_ptr<QMdiArea> windows_; ///< the main window's, once there is one
+
+    c_smsm phrases_;
+    c_customer customers_;
+    c_parameter parameters_;
+    c_sendsms outgoing_;
+    c_recvedsms received_;
+    m_sendsmses queue_;
+
+    vc_smsm phrase_screen_;
+    vc_customer customer_screen_;
+    vc_parameter parameter_screen_;
+    vc_sendsms outgoing_screen_;
+    vc_recvedsms received_screen_;
+
+    std::unique_ptr<frmMain> main_window_;
+};
+
+/// What stands before the main window: makes the connection string for a database in `directory`,
+/// the database itself when there is none, and the session user, and asks the operator to log in.
+/// Returns nothing when the program is to go on, else its exit status.
+[[nodiscard]] std::optional<int> start_session(const QString& directory);
+
+/// Sets up the toolkit for this program: title, icon, Chinese standard texts, error boxes.
+void set_up_toolkit();

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "app/frmLogin.h"
+
+#include "app/error_report.h"
+#include "data/literals.h"
+#include "data/strconn.h"
+#include "listview/dialog_buttons.h"
+#include "operators/rsclsuser.h"
+#include "platform/conversion.h"
+#include "platform/widgets/msgbox.h"
+
+#include <QDate>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QLineEdit* add_box(QFormLayout& form, const QString& label_name, const QString& label,
+                   const QString& name, const QString& text) {
+    auto* box = new QLineEdit(text);
+    box->setObjectName(name);
+    box->setAccessibleName(label);
+    auto* caption = new QLabel(label);
+    caption->setObjectName(label_name);
+    caption->setBuddy(box);
+    form.addRow(caption, box);
+    return box;
+}
+
+QString login_query(const QString& name, const QString& password) {
+    if (password.trimmed().isEmpty()) {
+        return u"select * from users where username= %1and ( password='' or password is null)"_s
+            .arg(text_literal(name));
+    }
+    return u"select * from users where username= %1and  password=%2"_s.arg(text_literal(name),
+                                                                           text_literal(password));
+}
+
+} // namespace
+
+frmLogin::frmLogin(QWidget* parent) : QDialog(parent) {
+    setWindowTitle(u"系统登录"_s);
+    auto* layout = new QVBoxLayout(this);
+    auto* form = new QFormLayout;
+    form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    layout->addLayout(form);
+    txtUserName = add_box(*form, u"lblLabels"_s, u"用户名称："_s, u"txtUserName"_s, u"valdrine"_s);
+    txtPassword = add_box(*form, u"lblLabels"_s, u"口令："_s, u"txtPassword"_s, {});
+    txtPassword->setEchoMode(QLineEdit::Password);
+    add_box(*form, u"lbldate"_s, u"业务日期："_s, u"txtDate"_s,
+            QDate::currentDate().toString(u"yyyy-MM-dd"_s));
+
+    const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
+    buttons.ok->setObjectName(u"cmdOK"_s);
+    buttons.cancel->setObjectName(u"cmdCancel"_s);
+    connect(buttons.ok, &QPushButton::clicked, this, &frmLogin::cmdOK_Click);
+    txtPassword->setFocus();
+    setMinimumWidth(fontMetrics().averageCharWidth() * 45);
+}
+
+void frmLogin::cmdOK_Click() {
+    try {
+        log_in();
+    } catch (const std::exception& error) {
+        show_error(error);
+        failed = true;
+        reject();
+    }
+}
+
+void frmLogin::log_in() {
+    Recordset rs;
+    rs.set_ActiveConnection(strconn);
+    rs.Open(login_query(txtUserName->text(), txtPassword->text()));
+    rs.detach();
+    if (rs.Bof() && rs.Eof()) {
+        msgbox::plain(u"用户名称或者口令输入错误，请重新输入！"_s, u"登录错误"_s);
+        txtPassword->setFocus();
+        txtPassword->selectAll();
+        return;
+    }
+    curuser->set_userid(to_int16(rs.Fields(u"userid"_s)));
+    curuser->set_username(to_text(rs.Fields(u"username"_s)));
+    curuser->set_password(to_text(rs.Fields(u"password"_s)));
+    loginok = true;
+    accept();
+}

@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+class QMdiArea;
+
+/// The ways to arrange the frame's windows, by their codes.
+enum class mdi_arrangement { cascade = 0, tile_horizontal = 1, tile_vertical = 2, icons = 3 };
+
+/// Arranges the windows that are not minimised, or lines up the minimised ones (icons).
+void arrange(QMdiArea& area, mdi_arrangement arrangement);
