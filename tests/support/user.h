@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QMessageBox>
+#include <QTest>
+#include <QWidget>
+
+#include <functional>
+
+/// What a person does in front of the program: looks for a box by its name, types, clicks, and
+/// answers the modal dialogs as they come up. A name that is not there fails with the names that
+/// are.
+namespace user {
+
+/// The visible or hidden child of this type and objectName. Ends the test when there is none.
+template <class Widget>
+[[nodiscard]] Widget& find(const QWidget& window, const QString& name);
+
+/// Replaces what stands in a line or text box, as an input method types it.
+void type(const QWidget& window, const QString& name, const QString& text);
+[[nodiscard]] QString text_of(const QWidget& window, const QString& name);
+/// Clicks a button, or a toolbar's button by its key.
+void click(const QWidget& window, const QString& name);
+void press_key(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+/// Chooses a menu item that is not greyed.
+void choose(const QWidget& window, const QString& name);
+
+// Modal dialogs are answered in the order in which they are expected. A dialog of another kind, or
+// none within the watchdog's time, fails the test; everything modal is then closed, so nothing
+// hangs.
+
+using answer = std::function<void(QWidget&)>;
+void expect_modal(const char* class_name, answer act);
+
+/// When the next modal dialog comes up it must be a `Dialog`; `act` drives it.
+template <class Dialog>
+void during_modal(std::function<void(Dialog&)> act) {
+    expect_modal(Dialog::staticMetaObject.className(),
+                 [act = std::move(act)](QWidget& dialog) { act(static_cast<Dialog&>(dialog)); });
+}
+
+/// The next modal dialog must be a message box with exactly this title and text; answers it.
+void expect_box(const QString& title, const QString& text,
+                QMessageBox::StandardButton answer = QMessageBox::Ok,
+                QMessageBox::Icon icon = QMessageBox::Information);
+
+/// Every expected dialog has come up; fails the test otherwise, and forgets them.
+[[nodiscard]] bool all_answered();
+
+/// Called with every modal dialog before it is answered; for taking pictures.
+void set_observer(std::function<void(QWidget&)> observer);
+
+template <class Widget>
+Widget& find(const QWidget& window, const QString& name) {
+    if (auto* found = window.findChild<Widget*>(name)) {
+        return *found;
+    }
+    QStringList names;
+    for (const QObject* child : window.findChildren<Widget*>()) {
+        names.append(child->objectName());
+    }
+    qFatal("no %s \"%s\"; there are: %s", Widget::staticMetaObject.className(), qPrintable(name),
+           qPrintable(names.join(u' ')));
+}
+
+} // namespace user
