@@ -8,6 +8,8 @@
 
 #include <QStringView>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -25,21 +27,26 @@ struct column_row {
     QStringView view_no;
     QStringView keyword;
     QStringView caption;
-    int width; ///< twips
-    shape holds;
+    int width = 0; ///< twips
+    shape holds = shape::text;
     QStringView true_text = u"";
     QStringView false_text = u"";
 };
 
-constexpr view_row views[] = {
-    {u"v_smsm", u"常用短语", u"all"},        {u"v_cusclass", u"客户分类目录", u"all"},
-    {u"v_customer", u"客户资料", u"all"},    {u"v_group", u"客户分组", u"all"},
-    {u"v_sendsms", u"短信单发", u"all"},     {u"v_gsendsms", u"短信群发", u"all"},
-    {u"v_recvedsms", u"收到的短信", u"all"}, {u"VUsers", u"操作员列表", u"all"},
-    {u"vrights", u"权限列表", u"readonly"},  {u"operateview", u"操作日志", u"readonly"},
-};
+constexpr auto views = std::to_array<view_row>({
+    {u"v_smsm", u"常用短语", u"all"},
+    {u"v_cusclass", u"客户分类目录", u"all"},
+    {u"v_customer", u"客户资料", u"all"},
+    {u"v_group", u"客户分组", u"all"},
+    {u"v_sendsms", u"短信单发", u"all"},
+    {u"v_gsendsms", u"短信群发", u"all"},
+    {u"v_recvedsms", u"收到的短信", u"all"},
+    {u"VUsers", u"操作员列表", u"all"},
+    {u"vrights", u"权限列表", u"readonly"},
+    {u"operateview", u"操作日志", u"readonly"},
+});
 
-constexpr column_row columns[] = {
+constexpr auto columns = std::to_array<column_row>({
     {u"v_smsm", u"mid", u"编号", 900, shape::number},
     {u"v_smsm", u"text", u"短语", 10500, shape::text},
 
@@ -97,7 +104,7 @@ constexpr column_row columns[] = {
     {u"operateview", u"userid", u"操作员号", 1200, shape::number},
     {u"operateview", u"username", u"操作员", 1650, shape::text},
     {u"operateview", u"operation", u"操作", 6000, shape::text},
-};
+});
 
 // The codes of the data grid: alignments 0 left, 2 centre, 3 general; formats 0 general, 1 custom,
 // 5 Boolean.

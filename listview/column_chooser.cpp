@@ -67,7 +67,7 @@ void column_chooser::add_row(const QString& label, QWidget* field) {
     last_field_ = field;
 }
 
-void column_chooser::choose_option(int index) {
+void column_chooser::choose_option(size_t index) {
     options_[index]->setChecked(true);
 }
 

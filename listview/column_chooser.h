@@ -5,6 +5,8 @@
 
 #include <QDialog>
 
+#include <array>
+
 class QComboBox;
 class QFormLayout;
 class QRadioButton;
@@ -26,7 +28,7 @@ protected:
 
     /// A labelled row between the column and the options.
     void add_row(const QString& label, QWidget* field);
-    void choose_option(int index);
+    void choose_option(size_t index);
     [[nodiscard]] bool is_first_option() const;
     /// The text for the record set, from the chosen column's key.
     [[nodiscard]] virtual QString make_result(const QString& key) const = 0;
@@ -38,5 +40,5 @@ private:
     QComboBox* ComboKey; ///< never shown; holds the keys beside the captions
     QFormLayout* form_;
     QWidget* last_field_ = nullptr;
-    QRadioButton* options_[2];
+    std::array<QRadioButton*, 2> options_;
 };

@@ -96,11 +96,30 @@ QLineEdit* edit_dialog::add_number(const QString& name, const QString& label, qi
 QLineEdit* edit_dialog::add_converted(const QString& name, const QString& label,
                                       std::function<QString()> load,
                                       std::function<void(const QString&)> save) {
-    auto* box = new QLineEdit(this);
+    QLineEdit* box = bind_line(std::move(load), std::move(save));
     add_row(name, label, box);
+    return box;
+}
+
+QLineEdit* edit_dialog::bind_line(std::function<QString()> load,
+                                  std::function<void(const QString&)> save) {
+    auto* box = new QLineEdit(this);
     bindings_.push_back({box, [box, load = std::move(load)] { box->setText(load()); },
                          [box, save = std::move(save)] { save(box->text()); }});
     return box;
+}
+
+QLineEdit* edit_dialog::add_number_beside(QWidget& box, const QString& name, const QString& purpose,
+                                          qint16& field) {
+    QLineEdit* number = bind_line(
+        [&field] { return QString::number(field); },
+        [&field](const QString& text) { field = text.isEmpty() ? qint16{0} : to_int16(text); });
+    number->setObjectName(name);
+    number->setAccessibleName(purpose);
+    number->setToolTip(purpose);
+    number->setFixedWidth(number->fontMetrics().averageCharWidth() * 10);
+    row_of(box).addWidget(number);
+    return number;
 }
 
 QLineEdit* edit_dialog::add_line(const QString& name, const QString& label, QString& field) {
@@ -129,14 +148,17 @@ QPushButton* edit_dialog::add_picker_button(const QString& name, QWidget& box,
     button->setAccessibleName(purpose);
     button->setAutoDefault(false);
     button->setFixedWidth(button->fontMetrics().averageCharWidth() * 6);
-    for (int i = 0; i < form_->rowCount(); ++i) {
-        auto* row = qobject_cast<QHBoxLayout*>(form_->itemAt(i, QFormLayout::FieldRole)->layout());
-        if (row->itemAt(0)->widget() == &box) {
-            row->addWidget(button, 0, Qt::AlignTop);
-        }
-    }
+    row_of(box).addWidget(button, 0, Qt::AlignTop);
     setTabOrder(&box, button);
     return button;
+}
+
+QHBoxLayout& edit_dialog::row_of(const QWidget& box) const {
+    int i = 0;
+    while (form_->itemAt(i, QFormLayout::FieldRole)->layout()->itemAt(0)->widget() != &box) {
+        ++i;
+    }
+    return static_cast<QHBoxLayout&>(*form_->itemAt(i, QFormLayout::FieldRole)->layout());
 }
 
 void edit_dialog::finish(QWidget& first_box) {

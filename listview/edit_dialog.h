@@ -9,6 +9,7 @@
 #include <vector>
 
 class QFormLayout;
+class QHBoxLayout;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
@@ -43,6 +44,10 @@ protected:
                              std::function<QString()> load,
                              std::function<void(const QString&)> save);
 
+    /// A number box without a label, behind another box; empty text is saved as 0.
+    QLineEdit* add_number_beside(QWidget& box, const QString& name, const QString& purpose,
+                                 qint16& field);
+
     /// Puts a small button "…" behind a box.
     QPushButton* add_picker_button(const QString& name, QWidget& box, const QString& purpose);
     /// Ends the form with its buttons; called last by the constructor.
@@ -64,6 +69,8 @@ private:
     };
 
     void add_row(const QString& name, const QString& label, QWidget* box);
+    QLineEdit* bind_line(std::function<QString()> load, std::function<void(const QString&)> save);
+    [[nodiscard]] QHBoxLayout& row_of(const QWidget& box) const;
     void load();
     void save();
 

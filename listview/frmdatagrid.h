@@ -24,6 +24,7 @@ public:
     /// Loads the view and opens the rows. Throws DataError.
     frmdatagrid(vc_in& controller, QString view_no, QWidget* parent = nullptr);
     ~frmdatagrid() override;
+    Q_DISABLE_COPY_MOVE(frmdatagrid)
 
     void faddnew();
     void Fedit();

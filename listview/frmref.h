@@ -19,6 +19,7 @@ class frmref : public QDialog {
 public:
     frmref(spListHeaders& columns, Recordset& rows, QWidget* parent = nullptr);
     ~frmref() override;
+    Q_DISABLE_COPY_MOVE(frmref)
 
 private:
     void pick();
@@ -31,7 +32,7 @@ private:
 struct picker_column {
     QStringView key;
     QStringView caption;
-    qint16 width; ///< twips
+    qint16 width = 0; ///< twips
     QStringView format = {};
 };
 

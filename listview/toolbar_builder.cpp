@@ -8,20 +8,33 @@
 #include <QStringView>
 #include <QToolBar>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 struct bitmap {
     QStringView key;
-    int resource;
+    int resource = 0;
 };
 
-constexpr bitmap bitmaps[] = {
-    {u"print", 314},  {u"preview", 312}, {u"output", 308},  {u"Add", 323},   {u"Edit", 324},
-    {u"Delete", 326}, {u"Save", 1145},   {u"filter", 1120}, {u"find", 309},  {u"setfield", 8},
-    {u"sort", 1148},  {u"refresh", 154}, {u"Help", 396},    {u"Exit", 1118},
-};
+constexpr auto bitmaps = std::to_array<bitmap>({
+    {u"print", 314},
+    {u"preview", 312},
+    {u"output", 308},
+    {u"Add", 323},
+    {u"Edit", 324},
+    {u"Delete", 326},
+    {u"Save", 1145},
+    {u"filter", 1120},
+    {u"find", 309},
+    {u"setfield", 8},
+    {u"sort", 1148},
+    {u"refresh", 154},
+    {u"Help", 396},
+    {u"Exit", 1118},
+});
 
 enum class present { in_all, in_all_and_modify, always };
 
@@ -32,7 +45,7 @@ struct button {
     QStringView shortcut = {};
 };
 
-constexpr button buttons[] = {
+constexpr auto buttons = std::to_array<button>({
     {u"Add", u"增加", present::in_all, u"Ctrl+N"},
     {u"Edit", u"修改", present::in_all_and_modify, u"F2"},
     {u"Delete", u"删除", present::in_all},
@@ -45,7 +58,7 @@ constexpr button buttons[] = {
     {{}, {}},
     {u"Help", u"帮助"},
     {u"Exit", u"退出"},
-};
+});
 
 bool is_present(present where, const QString& mode) {
     switch (where) {

@@ -8,29 +8,35 @@
 #include "platform/recordset.h"
 #include "platform/widgets/data_grid.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 struct text_field {
     QStringView column;
-    QString spListHeader::*member;
+    QString spListHeader::*member = nullptr;
 };
 
 struct number_field {
     QStringView column;
-    qint16 spListHeader::*member;
+    qint16 spListHeader::*member = nullptr;
 };
 
 // How the fields of a column stand in `viewitems`; reading and writing both follow these tables.
-constexpr text_field text_fields[] = {
-    {u"keyword", &spListHeader::key},         {u"caption", &spListHeader::caption},
-    {u"FormatStr", &spListHeader::FormatStr}, {u"Other1", &spListHeader::Other1},
-    {u"Other2", &spListHeader::Other2},       {u"DispTrue", &spListHeader::DispTrue},
-    {u"DispFalse", &spListHeader::DispFalse}, {u"DispNull", &spListHeader::DispNull},
-};
+constexpr auto text_fields = std::to_array<text_field>({
+    {u"keyword", &spListHeader::key},
+    {u"caption", &spListHeader::caption},
+    {u"FormatStr", &spListHeader::FormatStr},
+    {u"Other1", &spListHeader::Other1},
+    {u"Other2", &spListHeader::Other2},
+    {u"DispTrue", &spListHeader::DispTrue},
+    {u"DispFalse", &spListHeader::DispFalse},
+    {u"DispNull", &spListHeader::DispNull},
+});
 
-constexpr number_field number_fields[] = {
+constexpr auto number_fields = std::to_array<number_field>({
     {u"Width", &spListHeader::Width},
     {u"ReadOnly", &spListHeader::ReadOnly},
     {u"DataType", &spListHeader::DataType},
@@ -45,7 +51,7 @@ constexpr number_field number_fields[] = {
     {u"Visible", &spListHeader::Visible},
     {u"CanFilter", &spListHeader::CanFilter},
     {u"FormatType", &spListHeader::FormatType},
-};
+});
 
 bool is_empty(const Recordset& rs) {
     return rs.Bof() && rs.Eof();

@@ -20,11 +20,8 @@ frmSendsms::frmSendsms(vc_in& customers, vc_in& phrases, clock_source now, QWidg
       phrases_(phrases),
       now_(std::move(now)) {
     add_number(u"txtsmsID"_s, u"User ID:"_s, record.smsid);
-    txtCid = add_converted(
-        u"txtCid"_s, {}, [this] { return QString::number(record.cid); },
-        [this](const QString& text) { record.cid = text.isEmpty() ? qint16{0} : to_int16(text); });
-    txtCid->setAccessibleName(u"客户编号"_s);
     txtCname = add_line(u"txtCname"_s, u"客户名称："_s, record.cname);
+    txtCid = add_number_beside(*txtCname, u"txtCid"_s, u"客户编号"_s, record.cid);
     txtMobile = add_line(u"txtMobile"_s, u"手机号码："_s, record.mobile);
     txtSms = add_text(u"txtSms"_s, u"短信："_s, record.sms);
     add_converted(
@@ -48,7 +45,7 @@ void frmSendsms::before_load() {
 
 void frmSendsms::pick_customer() {
     const auto picked = customers_.Ref();
-    if (!picked) {
+    if (!picked || picked->picked(u"cid"_s).isEmpty()) {
         return;
     }
     txtCid->setText(picked->picked(u"cid"_s));

@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <bit>
 
 qsizetype RowStore::column(QStringView name) const {
     const auto found =
@@ -26,13 +27,13 @@ void RowStore::append_null() {
 void RowStore::append_integer(qint64 value) {
     cell& added = cells_.emplace_back();
     added.type = Type::integer;
-    added.integer = value;
+    added.content = value;
 }
 
 void RowStore::append_real(double value) {
     cell& added = cells_.emplace_back();
     added.type = Type::real;
-    added.real = value;
+    added.content = std::bit_cast<qint64>(value);
 }
 
 void RowStore::append_text(QByteArrayView utf8) {
@@ -48,16 +49,16 @@ RowStore::Type RowStore::type(qsizetype row, qsizetype column) const {
 }
 
 qint64 RowStore::integer(qsizetype row, qsizetype column) const {
-    return at(row, column).integer;
+    return at(row, column).content;
 }
 
 double RowStore::real(qsizetype row, qsizetype column) const {
-    return at(row, column).real;
+    return std::bit_cast<double>(at(row, column).content);
 }
 
 QByteArrayView RowStore::utf8(qsizetype row, qsizetype column) const {
     const cell& found = at(row, column);
-    return {texts_.data() + found.integer, static_cast<qsizetype>(found.length)};
+    return {texts_.data() + found.content, static_cast<qsizetype>(found.length)};
 }
 
 QString RowStore::text(qsizetype row, qsizetype column) const {
@@ -94,12 +95,12 @@ void RowStore::set_value(qsizetype row, qsizetype column, const QVariant& value)
         changed.type = Type::null;
     } else if (value.typeId() == QMetaType::Double) {
         changed.type = Type::real;
-        changed.real = value.toDouble();
+        changed.content = std::bit_cast<qint64>(value.toDouble());
     } else if (value.typeId() == QMetaType::QString) {
         changed = make_text(value.toString().toUtf8());
     } else {
         changed.type = Type::integer;
-        changed.integer = value.toLongLong();
+        changed.content = value.toLongLong();
     }
     cells_.at(static_cast<size_t>(row * columns_.size() + column)) = changed;
 }
@@ -108,7 +109,7 @@ RowStore::cell RowStore::make_text(QByteArrayView utf8) {
     cell made;
     made.type = Type::text;
     made.length = static_cast<quint32>(utf8.size());
-    made.integer = std::ssize(texts_);
+    made.content = std::ssize(texts_);
     texts_.append(utf8.data(), static_cast<size_t>(utf8.size()));
     return made;
 }

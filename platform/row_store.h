@@ -47,10 +47,7 @@ private:
     struct cell {
         Type type = Type::null;
         quint32 length = 0;
-        union {
-            qint64 integer = 0; ///< the number, or where a text starts in the buffer
-            double real;
-        };
+        qint64 content = 0; ///< the number, a real's bits, or where a text starts in the buffer
     };
 
     [[nodiscard]] cell make_text(QByteArrayView utf8);

@@ -10,8 +10,12 @@ namespace {
 
 /// The window that the operator works in; a box without one would open in a corner of its own.
 QWidget* owner_window() {
-    if (QWidget* active = QApplication::activeWindow()) {
-        return active;
+    // An edit dialog has just hidden itself when its outcome is told: then the window behind it.
+    for (QWidget* window = QApplication::activeWindow(); window != nullptr;
+         window = window->parentWidget()) {
+        if (window->isVisible()) {
+            return window->window();
+        }
     }
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && window->windowType() == Qt::Window) {

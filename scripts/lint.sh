@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# Checks the format and runs clang-tidy over every source file of the release build.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+source scripts/packages.sh
+
+install_packages "${build_packages[@]}" "${lint_packages[@]}"
+git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run -Werror
+[ -f build/release/compile_commands.json ] || cmake --preset release -Wno-dev
+cmake --build --preset release
+git ls-files -z '*.cpp' ':!bench/' |
+    xargs -0 -n 4 -P "$(nproc)" clang-tidy --quiet -p build/release

@@ -1,0 +1,44 @@
+# Sourced by the scripts: installs the Debian packages that are named and not there yet.
+
+build_packages=(
+    g++ cmake ninja-build pkg-config
+    qt6-base-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n libsqlite3-dev
+    fonts-wqy-microhei fonts-dejavu-core
+)
+display_packages=(xvfb xauth)
+lint_packages=(clang-format clang-tidy)
+
+# packages_missing NAME...: prints those that are not installed.
+packages_missing() {
+    local name
+    for name in "$@"; do
+        dpkg-query --show --showformat='${Status}\n' "$name" 2>/dev/null |
+            grep -q '^install ok installed$' || echo "$name"
+    done
+}
+
+# install_packages NAME...: with sudo when not root; says what to do when it cannot.
+install_packages() {
+    local missing as_root=()
+    if ! command -v dpkg-query >/dev/null; then
+        echo "This script installs Debian packages; on another system install the like of: $*" >&2
+        return 1
+    fi
+    mapfile -t missing < <(packages_missing "$@")
+    [ ${#missing[@]} -gt 0 ] || return 0
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "These packages are missing: ${missing[*]}" >&2
+            echo "Run as root, or install them with: apt-get install ${missing[*]}" >&2
+            return 1
+        fi
+        as_root=(sudo)
+    fi
+    echo "Installing: ${missing[*]}"
+    if ! "${as_root[@]}" apt-get update -qq ||
+        ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null; then
+        echo "Could not install: ${missing[*]}" >&2
+        return 1
+    fi
+}
