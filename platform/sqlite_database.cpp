@@ -16,7 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The old format names itself from the fifth byte of the file on.
+/// The old format names itself from the fifth byte of the file on. Only for a file that the engine
+/// has refused: closing any descriptor of an open database drops every lock that this process holds
+/// on it.
 bool is_old_format(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -72,15 +74,17 @@ SqliteDatabase::SqliteDatabase(const QString& path, Mode mode) {
             throw DataError(DataError::Kind::cannot_open, file.errorString());
         }
     }
-    if (is_old_format(path)) {
-        throw DataError(DataError::Kind::old_format, path);
+    open(path);
+    if (mode == Mode::existing) {
+        use_write_ahead_log(path);
     }
-    open(path, mode);
+    sqlite3_busy_timeout(handle_.get(), lock_wait_ms);
+    execute_script("PRAGMA synchronous=FULL");
 }
 
 SqliteDatabase::~SqliteDatabase() = default;
 
-void SqliteDatabase::open(const QString& path, Mode mode) {
+void SqliteDatabase::open(const QString& path) {
     sqlite3* handle = nullptr;
     const int result = sqlite3_open_v2(QDir::toNativeSeparators(path).toUtf8().constData(), &handle,
                                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
@@ -89,12 +93,20 @@ void SqliteDatabase::open(const QString& path, Mode mode) {
         throw DataError(DataError::Kind::cannot_open, QString::fromUtf8(sqlite3_errstr(result)));
     }
     sqlite3_extended_result_codes(handle, 1);
-    if (mode == Mode::existing) {
-        // Not waited for: a file on a read-only medium or held by somebody else keeps its mode.
-        sqlite3_exec(handle, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+}
+
+void SqliteDatabase::use_write_ahead_log(const QString& path) {
+    // Not waited for: a file on a read-only medium or held by somebody else keeps its mode.
+    const int result =
+        sqlite3_exec(handle_.get(), "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+    if (kind_of(result) == DataError::Kind::not_a_database) {
+        const QString detail = QString::fromUtf8(sqlite3_errmsg(handle_.get()));
+        handle_.reset();
+        if (is_old_format(path)) {
+            throw DataError(DataError::Kind::old_format, path);
+        }
+        throw DataError(DataError::Kind::not_a_database, detail);
     }
-    sqlite3_busy_timeout(handle, lock_wait_ms);
-    execute_script("PRAGMA synchronous=FULL");
 }
 
 void SqliteDatabase::raise() const {

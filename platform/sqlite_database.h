@@ -46,7 +46,8 @@ public:
     [[nodiscard]] bool moved() const;
 
 private:
-    void open(const QString& path, Mode mode);
+    void open(const QString& path);
+    void use_write_ahead_log(const QString& path);
     [[noreturn]] void raise() const;
 
     struct handle_deleter {
