@@ -26,7 +26,8 @@ bool needs_tables(const QString& path) {
         return true;
     }
     try {
-        SqliteDatabase database(path);
+        // Not waited for: whoever is at work in the file has made its tables.
+        SqliteDatabase database(path, SqliteDatabase::Mode::existing, 0);
         return !holds_a_table(database);
     } catch (const DataError&) {
         return false;

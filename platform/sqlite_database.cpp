@@ -64,7 +64,7 @@ void SqliteDatabase::handle_deleter::operator()(sqlite3* handle) const noexcept 
     sqlite3_close_v2(handle);
 }
 
-SqliteDatabase::SqliteDatabase(const QString& path, Mode mode) {
+SqliteDatabase::SqliteDatabase(const QString& path, Mode mode, int lock_wait) {
     if (!QFileInfo::exists(path)) {
         if (mode == Mode::existing) {
             throw DataError(DataError::Kind::missing_file, path);
@@ -78,7 +78,7 @@ SqliteDatabase::SqliteDatabase(const QString& path, Mode mode) {
     if (mode == Mode::existing) {
         use_write_ahead_log(path);
     }
-    sqlite3_busy_timeout(handle_.get(), lock_wait_ms);
+    sqlite3_busy_timeout(handle_.get(), lock_wait);
     execute_script("PRAGMA synchronous=FULL");
 }
 

@@ -15,14 +15,16 @@ struct sqlite3_stmt;
 /// up to `lock_wait_ms` and make every commit durable before it returns.
 class SqliteDatabase {
 public:
-    /// How long a statement waits for a lock, in milliseconds.
+    /// The usual wait for a lock, in milliseconds.
     static constexpr int lock_wait_ms = 3000;
 
     enum class Mode { existing, create };
 
     /// Opens the file; `create` makes an empty one, readable by its owner alone, where there is
-    /// none. Throws DataError (missing_file, cannot_open, old_format, not_a_database).
-    explicit SqliteDatabase(const QString& path, Mode mode = Mode::existing);
+    /// none. `lock_wait` is how long opening and every statement wait for a lock, in milliseconds.
+    /// Throws DataError (missing_file, cannot_open, old_format, not_a_database, locked).
+    explicit SqliteDatabase(const QString& path, Mode mode = Mode::existing,
+                            int lock_wait = lock_wait_ms);
     ~SqliteDatabase();
     Q_DISABLE_COPY_MOVE(SqliteDatabase)
 
