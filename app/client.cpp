@@ -59,6 +59,7 @@ frmMain& client::open_main_window() {
                                                                  .queue = queue_});
     frmSplash splash(main_window_.get());
     splash.show();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // lets the picture appear
     splash.repaint();
     main_window_->show();
     splash.hide();

@@ -106,8 +106,12 @@ constexpr auto columns = std::to_array<column_row>({
     {u"operateview", u"operation", u"操作", 6000, shape::text},
 });
 
-// The codes of the data grid: alignments 0 left, 2 centre, 3 general; formats 0 general, 1 custom,
-// 5 Boolean.
+// The codes of the data grid: alignments 0 left, 1 right, 2 centre, 3 general; formats 0 general, 1
+// custom, 5 Boolean.
+QString heading_alignment_of(shape holds) {
+    return holds == shape::flag ? u"2"_s : holds == shape::number ? u"1"_s : u"0"_s;
+}
+
 QString alignment_of(shape holds) {
     return holds == shape::flag ? u"2"_s : holds == shape::text ? u"0"_s : u"3"_s;
 }
@@ -119,11 +123,12 @@ QString format_of(shape holds) {
 void write_column(SqliteDatabase& database, const column_row& column, int position) {
     const QString format = column.holds == shape::moment ? u"yyyy-mm-dd hh:mm:ss"_s : QString();
     database.execute(
-        u"INSERT INTO viewitems (ViewNo, pos, keyword, caption, Width, FormatStr, ReadOnly, DataType, DataWidth, RefType, PointNum, Other1, Other2, HAlignment, TAlignment, CanSet, ColMerge, Visible, DispTrue, DispFalse, DispNull, CanFilter, condValue1, CondValue2, FormatType) values (%1,%2,%3,%4,%5,%6,-1,%7,0,0,0,'','',%8,%8,-1,0,-1,%9,%10,'',-1,'','',%11)"_s
+        u"INSERT INTO viewitems (ViewNo, pos, keyword, caption, Width, FormatStr, ReadOnly, DataType, DataWidth, RefType, PointNum, Other1, Other2, HAlignment, TAlignment, CanSet, ColMerge, Visible, DispTrue, DispFalse, DispNull, CanFilter, condValue1, CondValue2, FormatType) values (%1,%2,%3,%4,%5,%6,-1,%7,0,0,0,'','',%8,%9,-1,0,-1,%10,%11,'',-1,'','',%12)"_s
             .arg(literal(column.view_no.toString()), QString::number(position),
                  literal(column.keyword.toString()), literal(column.caption.toString()),
                  QString::number(column.width), literal(format),
-                 QString::number(static_cast<int>(column.holds)), alignment_of(column.holds),
+                 QString::number(static_cast<int>(column.holds)),
+                 heading_alignment_of(column.holds), alignment_of(column.holds),
                  literal(column.true_text.toString()), literal(column.false_text.toString()),
                  format_of(column.holds)));
 }

@@ -6,11 +6,29 @@
 #include "platform/twips.h"
 
 #include <QHeaderView>
+#include <QStyledItemDelegate>
 
 #include <limits>
 
+namespace {
+
+/// Paints the beginning of a text: laying out ten thousand characters for one line would make
+/// scrolling crawl.
+class first_line_delegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QString displayText(const QVariant& value, const QLocale& locale) const override {
+        constexpr qsizetype most_characters = 500; // more than the widest column shows
+        return QStyledItemDelegate::displayText(value.toString().left(most_characters), locale);
+    }
+};
+
+} // namespace
+
 DataGrid::DataGrid(QWidget* parent) : QTableView(parent) {
     setModel(&model_);
+    setItemDelegate(new first_line_delegate(this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
