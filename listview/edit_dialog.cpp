@@ -133,7 +133,7 @@ QLineEdit* edit_dialog::add_line(const QString& name, const QString& label, QStr
 QPlainTextEdit* edit_dialog::add_text(const QString& name, const QString& label, QString& field) {
     auto* box = new QPlainTextEdit(this);
     box->setTabChangesFocus(true);
-    box->setMinimumHeight(fontMetrics().lineSpacing() * 5);
+    box->setMinimumHeight(fontMetrics().lineSpacing() * 6);
     add_row(name, label, box);
     const auto shown = std::make_shared<QString>();
     bindings_.push_back({box, show_field(box, shown, field), save_if_changed(box, shown, field)});
@@ -172,6 +172,7 @@ void edit_dialog::finish(QWidget& first_box) {
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), this), &QShortcut::activated,
             buttons.ok, &QPushButton::click);
     setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+    resize(minimumWidth(), layout()->totalMinimumSize().height());
 }
 
 void edit_dialog::load() {

@@ -10,7 +10,10 @@
 #include "platform/widgets/msgbox.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -28,13 +31,22 @@ frmref::frmref(spListHeaders& columns, Recordset& rows, QWidget* parent)
 
     apply_view(columns, *DataGrid1);
     DataGrid1->set_recordset(&rows);
-    resize(fontMetrics().averageCharWidth() * 90, fontMetrics().height() * 26);
+    resize(wanted_width(), fontMetrics().height() * 26);
     connect(buttons.ok, &QPushButton::clicked, this, &frmref::pick);
     connect(DataGrid1, &QAbstractItemView::doubleClicked, this, &frmref::pick);
 }
 
 frmref::~frmref() {
     DataGrid1->set_recordset(nullptr);
+}
+
+int frmref::wanted_width() const {
+    // All columns, as far as the screen goes.
+    const QMargins margins = layout()->contentsMargins();
+    const int columns = DataGrid1->horizontalHeader()->length() + 2 * DataGrid1->frameWidth() +
+                        DataGrid1->verticalScrollBar()->sizeHint().width();
+    return qMin(columns + margins.left() + margins.right(),
+                screen()->availableSize().width() * 9 / 10);
 }
 
 void frmref::pick() {

@@ -22,6 +22,7 @@ public:
     Q_DISABLE_COPY_MOVE(frmref)
 
 private:
+    [[nodiscard]] int wanted_width() const;
     void pick();
 
     spListHeaders& columns_;

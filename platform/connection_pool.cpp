@@ -6,7 +6,9 @@
 #include "platform/connection_string.h"
 #include "platform/data_error.h"
 
+#include <QCoreApplication>
 #include <QHash>
+#include <QTimer>
 
 #include <vector>
 
@@ -19,12 +21,31 @@ QHash<QString, std::shared_ptr<idle_list>>& idle_connections() {
     return connections;
 }
 
+/// Long enough that a run of messages or saves hardly pays for it.
+constexpr int fold_delay_ms = 1000;
+
+void fold_logs_later() {
+    static bool scheduled = false;
+    if (scheduled || QCoreApplication::instance() == nullptr) {
+        return;
+    }
+    scheduled = true;
+    QTimer::singleShot(fold_delay_ms, QCoreApplication::instance(), [] {
+        scheduled = false;
+        connection_pool::fold_logs();
+    });
+}
+
 /// Back into the idle list; a connection that cannot be brought back to rest is closed instead.
-void give_back(SqliteDatabase* database, const std::weak_ptr<idle_list>& home) noexcept {
+void give_back(SqliteDatabase* database, int changes_before,
+               const std::weak_ptr<idle_list>& home) noexcept {
     std::unique_ptr<SqliteDatabase> owned(database);
     try {
         if (owned->in_transaction()) {
             owned->execute_script("ROLLBACK");
+        }
+        if (owned->total_changes() != changes_before) {
+            fold_logs_later();
         }
         if (const auto list = home.lock()) {
             list->push_back(std::move(owned));
@@ -52,8 +73,18 @@ std::shared_ptr<SqliteDatabase> connection_pool::acquire(const QString& connecti
     if (!database) {
         database = std::make_unique<SqliteDatabase>(data_source(connection_string));
     }
-    return {database.release(),
-            [list = std::weak_ptr(home)](SqliteDatabase* released) { give_back(released, list); }};
+    const int changes = database->total_changes();
+    return {database.release(), [list = std::weak_ptr(home), changes](SqliteDatabase* released) {
+                give_back(released, changes, list);
+            }};
+}
+
+void connection_pool::fold_logs() {
+    for (const auto& home : idle_connections()) {
+        if (!home->empty()) {
+            home->back()->fold_log();
+        }
+    }
 }
 
 void connection_pool::clear() {

@@ -15,7 +15,11 @@ namespace connection_pool {
 /// transaction is then rolled back. Throws DataError as SqliteDatabase does.
 [[nodiscard]] std::shared_ptr<SqliteDatabase> acquire(const QString& connection_string);
 
-/// Closes every idle connection, which also folds the write-ahead log into the file.
+/// Folds the logs of the idle connections into their files. Happens by itself a moment after the
+/// last write, so that the file alone is whole when somebody copies or replaces it.
+void fold_logs();
+
+/// Closes every idle connection, which folds the logs too.
 void clear();
 
 } // namespace connection_pool

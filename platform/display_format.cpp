@@ -117,6 +117,7 @@ QString DisplayFormat::apply(const QVariant& value) const {
     }
     bool is_number = false;
     const double number = value.toDouble(&is_number);
+    is_number = is_number && std::isfinite(number); // the toolkit reads "inf" and "nan" as numbers
     const section& format = is_number ? section_for(number) : sections_.front();
     switch (format.kind) {
     case Kind::literal:

@@ -159,14 +159,14 @@ void Recordset::MoveFirst() {
     if (RecordCount() == 0) {
         raise_cursor(u"the record set is empty"_s);
     }
-    position_ = 0;
+    set_position(0);
 }
 
 void Recordset::MoveNext() {
     if (Eof()) {
         raise_cursor(u"the record set is at its end"_s);
     }
-    ++position_;
+    set_position(position_ + 1);
 }
 
 qsizetype Recordset::RecordCount() const {
@@ -179,6 +179,9 @@ qsizetype Recordset::position() const {
 
 void Recordset::set_position(qsizetype row) {
     require_open();
+    if (!dirty_.empty() && !table_.isEmpty()) {
+        Update(); // a changed row is stored before it is left
+    }
     position_ = qBound<qsizetype>(-1, row, RecordCount());
 }
 

@@ -56,6 +56,7 @@ public:
 
     /// A field of the current row; Null is an invalid QVariant.
     [[nodiscard]] QVariant Fields(const QString& name) const;
+    /// Changes a field of the current row; `Update` stores it, and so does going to another row.
     void set_Fields(const QString& name, const QVariant& value);
     /// Adds a row of Nulls and makes it the current one; `Update` stores it.
     void AddNew();

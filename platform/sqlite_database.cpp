@@ -160,6 +160,16 @@ qint64 SqliteDatabase::last_insert_rowid() const {
     return sqlite3_last_insert_rowid(handle_.get());
 }
 
+int SqliteDatabase::total_changes() const {
+    return sqlite3_total_changes(handle_.get());
+}
+
+void SqliteDatabase::fold_log() {
+    sqlite3_busy_timeout(handle_.get(), 0);
+    sqlite3_wal_checkpoint_v2(handle_.get(), nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr);
+    sqlite3_busy_timeout(handle_.get(), lock_wait_ms);
+}
+
 bool SqliteDatabase::in_transaction() const {
     return sqlite3_get_autocommit(handle_.get()) == 0;
 }

@@ -43,9 +43,14 @@ public:
     void execute_script(const char* sql);
 
     [[nodiscard]] qint64 last_insert_rowid() const;
+    /// How many rows this connection has changed since it was opened.
+    [[nodiscard]] int total_changes() const;
     [[nodiscard]] bool in_transaction() const;
     /// The file under the open connection was deleted, renamed or replaced since.
     [[nodiscard]] bool moved() const;
+    /// Writes the log back into the file and empties it, unless somebody is reading from it just
+    /// now.
+    void fold_log();
 
 private:
     void open(const QString& path);

@@ -5,7 +5,7 @@ build_packages=(
     qt6-base-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n libsqlite3-dev
     fonts-wqy-microhei fonts-dejavu-core
 )
-display_packages=(xvfb xauth)
+display_packages=(xvfb xauth openbox)
 lint_packages=(clang-format clang-tidy)
 
 # packages_missing NAME...: prints those that are not installed.

@@ -3,6 +3,7 @@
 
 #include "platform/widgets/msgbox.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
 
@@ -29,6 +30,9 @@ int show(QMessageBox::Icon icon, const QString& text, const QString& title,
          QMessageBox::StandardButtons buttons) {
     QMessageBox box(icon, title, text, buttons, owner_window());
     box.setTextFormat(Qt::PlainText);
+    for (QAbstractButton* button : box.buttons()) {
+        button->setIcon({}); // the buttons of the dialogs have none either
+    }
     return box.exec();
 }
 
