@@ -33,18 +33,23 @@ bool polling = false;
 void poll();
 
 void poll_later() {
-    if (!expected.empty() && !polling) {
+    if (!polling) {
         polling = true;
         QTimer::singleShot(poll_ms, qApp, poll);
     }
 }
 
 void give_up(const QString& reason) {
+    if (QTest::currentTestFunction() == nullptr) { // no test that could fail: a program of its own
+        qFatal("%s", qPrintable(reason));
+    }
     expected.clear();
     QTest::qFail(qPrintable(reason), __FILE__, __LINE__);
     for (int i = 0; i < 20 && QApplication::activeModalWidget() != nullptr; ++i) {
         QApplication::activeModalWidget()->close();
     }
+    polls_left = 0; // whatever comes up after these is closed at once
+    poll_later();
 }
 
 QString describe(const QWidget& dialog) {
@@ -54,15 +59,33 @@ QString describe(const QWidget& dialog) {
              box == nullptr ? QString() : box->text());
 }
 
+/// A dialog that stays with nobody to answer it would hang the test.
+void watch_unexpected(const QWidget* modal) {
+    if (modal == nullptr || QTest::currentTestFunction() == nullptr) {
+        return;
+    }
+    if (--polls_left <= 0) {
+        give_up(QStringLiteral("nobody answers ") + describe(*modal));
+    }
+    poll_later();
+}
+
+/// About to do what may open a dialog.
+void watch() {
+    polls_left = watchdog_polls;
+    poll_later();
+}
+
 /// Looks for the dialog that is expected next; a timer of its own a step, because answering one
 /// dialog may open the next inside it.
 void poll() {
     polling = false;
-    if (expected.empty()) {
-        return;
-    }
     static QPointer<QWidget> last;
     QWidget* modal = QApplication::activeModalWidget();
+    if (expected.empty()) {
+        watch_unexpected(modal);
+        return;
+    }
     if (modal == nullptr) {
         last = nullptr;
     } else if (modal->inherits(expected.front().class_name.constData())) {
@@ -91,8 +114,7 @@ void poll() {
 
 void user::expect_modal(const char* class_name, answer act) {
     expected.push_back({class_name, std::move(act)});
-    polls_left = watchdog_polls;
-    poll_later();
+    watch();
 }
 
 void user::expect_box(const QString& title, const QString& text, QMessageBox::StandardButton answer,
@@ -143,6 +165,7 @@ QString user::text_of(const QWidget& window, const QString& name) {
 }
 
 void user::click(const QWidget& window, const QString& name) {
+    watch();
     if (auto* button = window.findChild<QAbstractButton*>(name)) {
         QTest::mouseClick(button, Qt::LeftButton);
         return;
@@ -153,6 +176,7 @@ void user::click(const QWidget& window, const QString& name) {
 }
 
 void user::press_key(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    watch();
     QWidget* focus = window.focusWidget();
     QTest::keyClick(focus == nullptr ? &window : focus, key, modifiers);
 }
@@ -162,5 +186,6 @@ void user::choose(const QWidget& window, const QString& name) {
     if (!item.isEnabled()) {
         qFatal("the menu item %s is greyed", qPrintable(name));
     }
+    watch();
     item.trigger();
 }

@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/connection_pool.h"
+#include "platform/recordset.h"
+#include "tests/support/error_of.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using Kind = DataError::Kind;
+
+/// Record sets, statements and connections on a small table of people.
+class test_data_access : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+    QString connection_ = u"PROVIDER=x;Data Source=%1\\a; b.mdb;"_s.arg(folder_.path());
+    QString path_ = folder_.filePath(u"a; b.mdb"_s);
+
+    static void make_people(const QString& path) {
+        SqliteDatabase(path, SqliteDatabase::Mode::create).execute_script(R"sql(
+CREATE TABLE people (id INTEGER PRIMARY KEY, name, born, score REAL, note TEXT DEFAULT 'new');
+INSERT INTO people VALUES (1, '王五', '2024/01/31 08:00:00', 10, 'it'),
+    (2, 'bob', '1999-12-31 00:00:00', 9, '7'), (3, '李四', NULL, NULL, ''),
+    (4, 'BOB', '2000/01/01', 100, '1'), (10, '阿三', 'soon', -1.5, NULL);)sql");
+    }
+
+    [[nodiscard]] Recordset open(const QString& source) const {
+        Recordset rs;
+        rs.LockType = Recordset::LockTypeEnum::optimistic;
+        rs.set_ActiveConnection(connection_);
+        rs.Open(source);
+        return rs;
+    }
+
+    /// The first column in the set's present order.
+    static QString texts(const Recordset& rs) {
+        QStringList texts;
+        for (qsizetype row = 0; row < rs.RecordCount(); ++row) {
+            texts.append(rs.store().text(rs.store_row(row), 0));
+        }
+        return texts.join(u' ');
+    }
+
+    QString run(const QString& statement) { return texts(open(statement)); }
+
+private slots:
+    void init() { make_people(path_); }
+
+    void cleanup() {
+        connection_pool::clear();
+        QFile::remove(path_);
+    }
+
+    void a_set_without_rows_or_connection_says_so() {
+        Recordset rs = open(u"select * from people where id=99"_s);
+        QVERIFY(rs.Bof() && rs.Eof());
+        QCOMPARE(error_of([&] { rs.MoveFirst(); }), Kind::cursor);
+        QCOMPARE(error_of([&] { rs.Find(u"id=1"_s); }), Kind::cursor);
+        QCOMPARE(error_of([&] { return rs.Fields(u"id"_s); }), Kind::cursor);
+        rs.Close();
+        QCOMPARE(error_of([&] { return rs.Eof(); }), Kind::cursor);
+        rs.Open(u"people"_s);
+        rs.detach();
+        rs.set_Fields(u"NAME"_s, u"x"_s);
+        QCOMPARE(error_of([&] { rs.Update(); }), Kind::cursor);
+    }
+
+    void finds() {
+        Recordset rs = open(u"people"_s);
+        const auto found = [&rs](const QString& criterion, int from = 0, int skip = 0) {
+            rs.set_position(from);
+            rs.Find(criterion, qAbs(skip),
+                    static_cast<Recordset::SearchDirectionEnum>(skip < 0 ? -1 : 1));
+            return rs.position();
+        };
+        QCOMPARE(found(u"name= 'Bob'"_s, 1), 1);
+        QCOMPARE(found(u"[NAME]='bob'"_s, 1, 1), 3);
+        QCOMPARE(found(u"name='bob'"_s, 3, -1), 1);
+        QCOMPARE(found(u"name='bob'"_s, 1, -1), -1);
+        QVERIFY(rs.Bof() && !rs.Eof());
+        QCOMPARE(found(u"name='bob'"_s, 4, 1), 5);
+        QVERIFY(rs.Eof() && !rs.Bof());
+        QCOMPARE(found(u"name='李四'"_s), 2);
+        QCOMPARE(found(u"id = +10"_s), 4);
+        QCOMPARE(found(u"score='9.00'"_s), 1);
+        QCOMPARE(found(u"note=7"_s), 1);
+        QCOMPARE(found(u"note=''"_s, 3), 5); // Null is not empty
+        QCOMPARE(found(u"born='2024-01-31 08:00:00'"_s), 0);
+        QCOMPARE(found(u"born='1999/12/31'"_s), 1);
+        QCOMPARE(found(u"born='2024-01-31 08:00:01'"_s), 5);
+    }
+
+    void sorts() {
+        Recordset rs = open(u"people"_s);
+        const auto sorted = [&rs](const QString& order) { return rs.set_Sort(order), texts(rs); };
+        QCOMPARE(sorted(u"name"_s), u"10 3 1 2 4"_s); // by pinyin; equal ones as they were
+        QCOMPARE(sorted(u"name DESC"_s), u"2 4 1 3 10"_s);
+        QCOMPARE(sorted(u"score ASC "_s), u"3 10 2 1 4"_s); // by value, Null first
+        rs.MoveNext();
+        for (const QString& text : {u"name='it's'"_s, u"name=bob"_s, u"nobody='x'"_s, u"id=1.2.3"_s,
+                                    u"id=1 or id=2"_s, u"name<>'x'"_s, u"name='x"_s, u","_s}) {
+            QCOMPARE(error_of([&] { rs.Find(text); }), Kind::criterion);
+            QCOMPARE(error_of([&] { rs.set_Sort(text); }), Kind::criterion);
+        }
+        QCOMPARE(rs.Fields(u"id"_s), 10);
+    }
+
+    void stores_only_the_columns_that_were_changed() {
+        Recordset rs = open(u"Select * From people where id>1"_s);
+        run(u"update people set score=77 where id=3"_s);
+        rs.set_Sort(u"name"_s);
+        rs.Find(u"id=3"_s);
+        rs.set_Fields(u"NAME"_s, u"it's"_s);
+        rs.Update();
+        rs.AddNew();
+        rs.set_Fields(u"name"_s, u"钱七"_s);
+        rs.Update();
+        rs.set_Fields(u"score"_s, 2.5);
+        rs.Update();
+        QCOMPARE(run(u"select name || score || note from people where id in (3,11)"_s),
+                 u"it's77.0 钱七2.5new"_s);
+        QCOMPARE(run(u"select id from people"_s), u"1 2 3 4 10 11"_s);
+    }
+
+    void reads_exactly_one_statement() {
+        QCOMPARE(run(u"select '#' || #2024/01/31# || '#1#' ; "_s), u"#2024/01/31#1#"_s);
+        QCOMPARE(run(u"select [a#b#] from (select 5 as [a#b#])"_s), u"5"_s);
+        for (const QString& text :
+             {u"select #' || '#"_s, u"delete from people; select 5"_s, u" ; "_s, u"select 'it's'"_s,
+              u"delete from people where name='x"_s, u"delete from people\0 where id=99"_s}) {
+            QCOMPARE(error_of([&] { run(text); }), Kind::statement);
+        }
+        QCOMPARE(run(u"select id from people"_s), u"1 2 3 4 10"_s);
+    }
+
+    void a_transaction_left_open_is_rolled_back() {
+        Connection connection;
+        connection.ConnectionString = connection_;
+        connection.Open();
+        connection.BeginTrans();
+        connection.Execute(u"delete from people"_s);
+        connection.Close();
+        run(u"delete from people where id=1"_s); // on the same physical connection
+        QCOMPARE(run(u"select id from people"_s), u"2 3 4 10"_s);
+    }
+
+    void a_replaced_file_is_noticed() {
+        run(u"delete from people where id=1"_s); // leaves a connection in the pool
+        connection_pool::fold_logs(); // as happens by itself a moment later
+        make_people(path_ + u'2');
+        QVERIFY(QFile::remove(path_) && QFile::rename(path_ + u'2', path_));
+        run(u"delete from people where id=2"_s);
+        connection_pool::clear();
+        QCOMPARE(run(u"select id from people"_s), u"1 3 4 10"_s);
+    }
+
+    void a_lock_is_reported_and_stops_no_reader() {
+        SqliteDatabase other(path_);
+        other.execute_script("BEGIN IMMEDIATE");
+        QCOMPARE(error_of([this] { run(u"delete from people"_s); }), Kind::locked);
+        QCOMPARE(run(u"select id from people"_s), u"1 2 3 4 10"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_data_access)
+#include "test_data_access.moc"
