@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/tour/guide.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int longest_run_ms = 120'000;
+constexpr int longest_wait_ms = 20'000;
+
+QDir folder;
+int number = 1; // of the step that is going on
+
+/// Saves the whole screen: a dialog is seen above what it covers.
+bool take_picture(const QString& name) {
+    const QString file = QString::asprintf("%02d-%s.png", number, qPrintable(name));
+    return QGuiApplication::primaryScreen()->grabWindow(0).save(folder.filePath(file));
+}
+
+} // namespace
+
+void guide::start(const QString& pictures) {
+    folder.setPath(pictures);
+    folder.mkpath(u"."_s);
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
+        if (type == QtFatalMsg) {
+            fail(message);
+        }
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+    });
+    QTimer::singleShot(longest_run_ms, qApp, [] { fail(u"expected the end, not seen in time"_s); });
+    ::alarm(longest_run_ms / 1000 + 10); // ends the process when not even the event loop runs
+}
+
+void guide::step(const QString& name, const QString& expected, const QStringList& seen) {
+    for (const QString& text : seen) {
+        if (text != expected) {
+            fail(u"%1: expected \"%2\", seen \"%3\""_s.arg(name, expected, seen.join(u"\", \""_s)));
+        }
+    }
+    QApplication::processEvents();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && QTest::qWaitForWindowExposed(window)) {
+            window->repaint();
+        }
+    }
+    if (!take_picture(name)) {
+        fail(u"cannot save the picture in "_s + folder.path());
+    }
+    const char* where = seen.size() > 1 ? "in window and database" : "seen";
+    std::printf("ok %02d %s: %s \"%s\"\n", number, qPrintable(name), where, qPrintable(expected));
+    std::fflush(stdout);
+    ++number;
+}
+
+void guide::wait_for(const QString& what, const std::function<bool()>& condition) {
+    if (!QTest::qWaitFor(condition, longest_wait_ms)) {
+        fail(u"expected %1, not seen within %2 ms"_s.arg(what).arg(longest_wait_ms));
+    }
+}
+
+void guide::activate(QWidget& window) {
+    window.activateWindow(); // there may be no window manager to do it
+    wait_for(u"the keyboard in "_s + window.windowTitle(),
+             [&window] { return window.isActiveWindow(); });
+}
+
+void guide::look_at(QWidget& dialog) {
+    activate(dialog);
+    const QWidget* owner = dialog.parentWidget() ? dialog.parentWidget()->window() : &dialog;
+    const QPoint off = dialog.geometry().center() - owner->geometry().center();
+    const int title_bar = 60; // at most; the toolkit leaves room for one
+    if (QApplication::focusWidget() == nullptr || off.manhattanLength() > title_bar) {
+        fail(u"expected in the middle, with the keyboard: "_s + dialog.windowTitle());
+    }
+}
+
+void guide::fail(const QString& reason) {
+    std::fprintf(stderr, "not ok %02d %s\n", number, qPrintable(reason));
+    take_picture(u"failed"_s);
+    std::_Exit(EXIT_FAILURE); // called from within the program's own handlers
+}
