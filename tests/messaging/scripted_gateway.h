@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QCoreApplication>
+#include <QStringConverter>
+#include <QTcpServer>
+#include <QTcpSocket>
+
+/// A gateway of the test's own on this machine: keeps what arrives and says what it is told to.
+class scripted_gateway {
+public:
+    QStringList frames;    ///< what arrived, one entry an arrival
+    QString answer_to_all; ///< unless empty, follows every arrival
+    int connections = 0;
+
+    scripted_gateway() {
+        QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
+            ++connections;
+            link_ = server_.nextPendingConnection();
+            QObject::connect(link_, &QTcpSocket::readyRead, link_, [this] { take_arrival(); });
+        });
+    }
+
+    /// Opens the same port again after close(). The column for it holds no port above 32767.
+    void listen() {
+        while (!server_.listen(QHostAddress::LocalHost, port_) && port_ < 32767) {
+            ++port_;
+        }
+    }
+    void close() { server_.close(); }
+    [[nodiscard]] quint16 port() const { return port_; }
+
+    void say(const QString& frame) { link_->write(QStringEncoder(QStringEncoder::Utf16LE)(frame)); }
+    void hang_up() { link_->disconnectFromHost(); }
+
+private:
+    void take_arrival() {
+        frames.append(QStringDecoder(QStringDecoder::Utf16LE)(link_->readAll()));
+        if (!answer_to_all.isEmpty()) {
+            say(answer_to_all);
+        }
+    }
+
+    QTcpServer server_;
+    QTcpSocket* link_ = nullptr;
+    quint16 port_ = static_cast<quint16>(20000 + QCoreApplication::applicationPid() % 12000);
+};

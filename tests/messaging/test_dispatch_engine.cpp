@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "data/c_parameter.h"
+#include "data/c_recvedsms.h"
+#include "data/c_sendsms.h"
+#include "data/strconn.h"
+#include "messaging/dispatch_engine.h"
+#include "tests/messaging/scripted_gateway.h"
+#include "tests/support/test_database.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+using state = Winsock::StateEnum;
+
+namespace {
+
+/// The engine between its own database and its own gateway, and a word for all that can happen.
+struct stage : test_database {
+    scripted_gateway gateway;
+    c_parameter parameters;
+    c_sendsms outgoing;
+    c_recvedsms received;
+    m_sendsmses queue;
+    dispatch_engine engine{{parameters, outgoing, received, queue}};
+    QSignalSpy arrivals{&engine.Winsock1, &Winsock::DataArrival};
+    QStringList expected_frames;
+    int expected_connections = 0;
+
+    const QHash<QString, std::function<void()>> happenings{
+        {u"poll"_s, [this] { engine.initsend(); }},
+        {u"timeout"_s, [this] { emit engine.Timer2.Timer(); }},
+        {u"stop"_s, [this] { engine.StopTomer(); }},
+        {u"shut"_s, [this] { gateway.close(); }},
+        {u"open"_s, [this] { gateway.listen(); }},
+        {u"refused"_s, [this] { QTRY_COMPARE(engine.Winsock1.State(), state::error); }},
+        {u"linked"_s, [this] { expect_link(); }},
+        {u"hangup"_s, [this] { hang_up(); }},
+        {u"rubbish"_s, [this] { gateway.say(QString(2 << 20, u'\xd8d8')); }},
+        {u"noport"_s, [] { execute(u"delete from parameters"_s); }},
+        {u"port"_s, [this] { set_port(gateway.port()); }},
+        {u"otherport"_s, [] { set_port(1); }},
+        {u"edit2"_s, [] { execute(u"update sendsms set sms = 'new' where smsid = 2"_s); }},
+        {u"delete3"_s, [] { execute(u"delete from sendsms where smsid = 3"_s); }},
+        {u"big"_s, [] { execute(u"insert into sendsms (smsid, stime) values (40000, '2025')"_s); }},
+        {u"lock1"_s, [] {
+             execute(u"create trigger lock before update on sendsms when old.smsid = 1 "
+                     "begin select raise(abort, ''); end"_s);
+         }}};
+
+    stage() {
+        parameters.connection = outgoing.connection = received.connection = strconn;
+        gateway.listen();
+        set_port(gateway.port());
+    }
+
+    static void set_port(quint16 port) {
+        execute(u"delete from parameters"_s);
+        execute(u"insert into parameters values ('127.0.0.1', %1)"_s.arg(port));
+    }
+
+    void expect_link() {
+        QTRY_COMPARE(engine.Winsock1.State(), state::connected);
+        ++expected_connections;
+        QTRY_COMPARE(gateway.connections, expected_connections);
+    }
+
+    void hang_up() {
+        gateway.hang_up();
+        QTRY_COMPARE(engine.Winsock1.State(), state::closing);
+    }
+
+    /// "<text": the gateway says it; ">text": this message is the next on the wire; otherwise a
+    /// happening, or the text of a message that is written and due.
+    void play(const QString& step) {
+        if (step.startsWith(u'<')) {
+            arrivals.clear();
+            gateway.say(step.sliced(1));
+            QTRY_COMPARE(arrivals.count(), 1);
+        } else if (step.startsWith(u'>')) {
+            expected_frames.append(u"1113912345678"_s + step.sliced(1));
+            QTRY_COMPARE(gateway.frames, expected_frames);
+        } else if (happenings.contains(step)) {
+            happenings.value(step)();
+        } else {
+            execute(u"insert into sendsms (mobile, sms, stime) "
+                    "values ('13912345678', '%1', '2024/01/31 08:00:00')"_s.arg(step));
+        }
+    }
+
+    void play_all(const QString& script) {
+        for (const QString& step : script.split(u' ')) {
+            play(step);
+            if (QTest::currentTestFailed()) {
+                qWarning("at %s", qPrintable(step));
+                return;
+            }
+        }
+    }
+
+    /// Every row's mark, how many messages the queue holds, whether one of them is in flight.
+    [[nodiscard]] QString outcome() const {
+        const QStringList marks = rows(u"select sendisok from sendsms order by smsid"_s);
+        const QString flight = engine.sendready() ? u"idle"_s : u"in flight"_s;
+        return u"%1, %2 left, %3"_s.arg(marks.join(u' ')).arg(queue.Count()).arg(flight);
+    }
+};
+
+} // namespace
+
+class test_dispatch_engine : public QObject {
+    Q_OBJECT
+
+private slots:
+    void plays_data() {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QString>("outcome");
+        QTest::addColumn<QString>("stored");
+        const auto row = [](const char* name, const QString& script, const QString& outcome,
+                            const QString& stored = {}) {
+            QTest::newRow(name) << script << outcome << stored;
+        };
+        row("one at a time",
+            u"poll linked 好😀 b c poll >好😀 d poll <1 >b <2 >c poll <1 >d <1 >b <1"_s,
+            u"-1 -1 -1 -1, 0 left, idle"_s);
+        row("two verdicts", u"poll linked a b c poll >a <11 >b"_s, u"-1 0 0, 2 left, in flight"_s);
+        row("first counts", u"poll linked a b c poll >a <21 >b"_s, u"0 0 0, 2 left, in flight"_s);
+        row("unknown", u"poll linked a b poll >a <3 <x1 <１ <\u3100"_s,
+            u"0 0, 2 left, in flight"_s);
+        row("verdict on nothing", u"poll linked <1 <2 a poll >a"_s, u"0, 1 left, in flight"_s);
+        row("late verdict", u"poll linked a b poll >a timeout >b <1 poll >a"_s,
+            u"0 -1, 1 left, in flight"_s);
+        row("stopped", u"poll linked a b poll >a stop <1 >b <013861391234567812240131235959ok"_s,
+            u"-1 0, 1 left, in flight"_s, u"13912345678|ok|2024/01/31 23:59:59|0"_s);
+        row("link not up yet", u"a b poll linked poll timeout >b poll <1 >a"_s,
+            u"0 -1, 1 left, in flight"_s);
+        row("link refused", u"shut a b poll refused open timeout poll refused timeout timeout"_s,
+            u"0 0, 0 left, idle"_s);
+        row("link closed", u"poll linked a b poll >a otherport rubbish hangup poll linked <1 >b"_s,
+            u"-1 0, 1 left, in flight"_s);
+        row("no parameters", u"noport a poll port poll linked timeout poll >a"_s,
+            u"0, 1 left, in flight"_s);
+        row("not stored",
+            u"poll linked a poll >a <00386112240131235959it's <00386112241331235959ok <0 <1"_s,
+            u"-1, 0 left, idle"_s);
+        row("rows changed", u"poll linked a b c poll >a edit2 delete3 <1 >b <1 >c <1"_s,
+            u"-1 -1, 0 left, idle"_s);
+        row("mark fails", u"poll linked a b poll >a lock1 <1 >b poll <1 >a"_s,
+            u"0 -1, 1 left, in flight"_s);
+        row("search fails", u"poll linked a b big poll >a <1 >b <1"_s, u"-1 -1 0, 0 left, idle"_s);
+    }
+
+    void plays() {
+        QFETCH(QString, script);
+        stage s;
+        s.play_all(script);
+        QTEST(s.outcome(), "outcome");
+        QTEST(s.rows(u"select mobile, sms, rtime, readed from recvedsms"_s).join(u' '), "stored");
+        QCOMPARE(s.engine.Timer2.Enabled(), !s.engine.sendready());
+        QCOMPARE(s.gateway.frames, s.expected_frames);
+    }
+
+    void timers() {
+        stage s;
+        const auto intervals = [&s] {
+            return std::pair(s.engine.Timer1.Interval(), s.engine.Timer2.Interval());
+        };
+        QVERIFY(intervals() == std::pair(60000, 10000) && s.engine.Timer1.Enabled());
+        s.engine.startTimer();
+        QVERIFY(intervals() == std::pair(2000, 60000) && !s.engine.Timer2.Enabled());
+        s.play_all(u"poll linked a"_s);
+        s.engine.Timer1.set_Interval(1);
+        s.play(u">a"_s);
+        s.engine.StopTomer();
+        QVERIFY(intervals() == std::pair(0, 0) && s.engine.Timer2.Enabled());
+        s.engine.Timer2.set_Interval(1);
+        QTRY_COMPARE(s.outcome(), u"0, 0 left, idle"_s);
+    }
+
+    void a_thousand() {
+        stage s;
+        s.play_all(u"poll linked"_s);
+        s.execute(u"insert into sendsms (mobile, sms, stime) with recursive n(i) as (values (1) "
+                  "union all select i + 1 from n where i < 1000) "
+                  "select '13912345678', i, '2024/01/31 08:00:00' from n"_s);
+        s.gateway.answer_to_all = u"1"_s;
+        s.engine.initsend();
+        QTRY_COMPARE_WITH_TIMEOUT(s.queue.Count(), 0, 60000);
+        QCOMPARE(s.gateway.frames, s.rows(u"select '1113912345678' || smsid from sendsms"_s));
+        QCOMPARE(s.outcome(), u"-1 "_s.repeated(1000).trimmed() + u", 0 left, idle"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_dispatch_engine)
+#include "test_dispatch_engine.moc"
