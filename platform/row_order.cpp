@@ -37,11 +37,12 @@ int rank(RowStore::Type type) {
 }
 
 bool operator<(const sort_key& left, const sort_key& right) {
-    const int ranks[] = {rank(left.type), rank(right.type)};
-    if (ranks[0] != ranks[1] || ranks[0] == 0) {
-        return ranks[0] < ranks[1];
+    const int left_rank = rank(left.type);
+    const int right_rank = rank(right.type);
+    if (left_rank != right_rank || left_rank == 0) {
+        return left_rank < right_rank;
     }
-    return ranks[0] == 1 ? left.number < right.number : left.text->compare(*right.text) < 0;
+    return left_rank == 1 ? left.number < right.number : left.text->compare(*right.text) < 0;
 }
 
 std::vector<sort_key> keys_of(const RowStore& store, qsizetype column) {

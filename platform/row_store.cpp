@@ -80,7 +80,7 @@ QVariant RowStore::value(qsizetype row, qsizetype column) const {
     case Type::text:
         return text(row, column);
     case Type::integer:
-        return QVariant(integer(row, column));
+        return integer(row, column);
     case Type::real:
         return real(row, column);
     case Type::null:

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/client.h"
+#include "app/frmMain.h"
+#include "listview/frmdatagrid.h"
+#include "operators/rsclsuser.h"
+#include "platform/widgets/data_grid.h"
+#include "tests/support/test_database.h"
+#include "tests/support/user.h"
+
+#include <QMdiSubWindow>
+
+/// The whole program on a database of its own: operator 1 is logged in, no gateway answers.
+class screen_fixture {
+    test_database database_;
+    client program_;
+
+public:
+    frmMain& window = start();
+    QMdiArea& area = *window.findChild<QMdiArea*>();
+
+    /// Opens the list window of a menu item.
+    [[nodiscard]] frmdatagrid& list(const QString& item) {
+        user::choose(window, item);
+        return *qobject_cast<frmdatagrid*>(area.activeSubWindow()->widget());
+    }
+
+private:
+    frmMain& start() {
+        test_database::execute(QStringLiteral("update parameters set port=1"));
+        set_up_toolkit();
+        curuser = std::make_unique<rsclsuser>();
+        curuser->set_userid(1);
+        curuser->set_username(QStringLiteral("valdrine"));
+        frmMain& opened = program_.open_main_window();
+        opened.resize(900, 600);
+        return opened;
+    }
+};
+
+[[nodiscard]] inline DataGrid& grid_of(const QWidget& window) {
+    return user::find<DataGrid>(window, QStringLiteral("DataGrid1"));
+}
+
+/// What a window's grid shows in a column, its rows joined by blanks.
+[[nodiscard]] inline QString column_of(const QWidget& window, int column) {
+    const QAbstractItemModel& model = *grid_of(window).model();
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        texts.append(model.index(row, column).data().toString());
+    }
+    return texts.join(u' ');
+}

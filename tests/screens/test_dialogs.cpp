@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "app/frmLogin.h"
+#include "directory/FrmParameter.h"
+#include "listview/frmFind.h"
+#include "listview/frmSort.h"
+#include "listview/frmref.h"
+#include "tests/screens/screen_fixture.h"
+
+#include <QAbstractButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using box_texts = QList<std::pair<QString, QString>>;
+
+/// The next dialog must show these texts; types those into it and clicks a button.
+template <class Dialog>
+void answer(const box_texts& shown, const box_texts& typed, const QString& button = u"cmdok"_s) {
+    user::during_modal<Dialog>([=](Dialog& dialog) {
+        for (const auto& [box, text] : shown) {
+            QTest::qCompare(user::text_of(dialog, box), text, qPrintable(box), "expected", __FILE__,
+                            __LINE__);
+        }
+        for (const auto& [box, text] : typed) {
+            user::type(dialog, box, text);
+        }
+        user::click(dialog, button);
+    });
+}
+
+/// The next dialog must be a picker; takes its last row, or cancels.
+void pick(const QString& button = u"cmdok"_s) {
+    user::during_modal<frmref>([=](frmref& picker) {
+        grid_of(picker).selectRow(grid_of(picker).model()->rowCount() - 1);
+        user::click(picker, button);
+    });
+}
+
+void expect_refusal(const QString& text, const QString& title = u"输入错误"_s) {
+    user::expect_box(title, text, QMessageBox::Ok, QMessageBox::Critical);
+}
+
+void expect_question(const QString& text, QMessageBox::StandardButton button) {
+    user::expect_box(u"保存成功"_s, text, button, QMessageBox::NoIcon);
+}
+
+/// Whoever cannot see a dialog or has no mouse needs names, room, and a road from top to bottom.
+void check_order(QDialog&& dialog) {
+    dialog.show();
+    QRect last;
+    for (QWidget* box = dialog.nextInFocusChain(); box != &dialog; box = box->nextInFocusChain()) {
+        if (!box->isVisible() || (box->focusPolicy() & Qt::TabFocus) == 0) {
+            continue;
+        }
+        const auto* button = qobject_cast<QAbstractButton*>(box);
+        const QString text = button == nullptr ? QString() : button->text();
+        const QRect place(box->mapTo(&dialog, QPoint()), box->size());
+        QVERIFY2(!box->objectName().isEmpty() && !(box->accessibleName() + text).isEmpty() &&
+                     box->width() > box->fontMetrics().horizontalAdvance(text) &&
+                     dialog.rect().contains(place) && place.bottom() >= last.top(),
+                 qPrintable(dialog.windowTitle() + u' ' + box->objectName()));
+        last = place;
+    }
+    QVERIFY(last.isValid());
+}
+
+} // namespace
+
+/// Adding, editing, deleting and picking through the dialogs of the entities.
+class test_dialogs : public QObject {
+    Q_OBJECT
+
+    screen_fixture program_;
+
+private slots:
+    void init() {
+        test_database::execute(u"delete from smsmodels"_s);
+        test_database::execute(u"insert into smsmodels values (1, '早安'), (2, '晚安')"_s);
+        test_database::execute(u"delete from customer"_s);
+        test_database::execute(
+            u"insert into customer (cid, cname, mobile, memo) values (1, '李四', '139', 'a\r\nb')"_s);
+    }
+
+    void cleanup() { QVERIFY(user::all_answered()); }
+
+    void adds_until_the_operator_stops() {
+        const QString go_on = u"成功创建一个短语信息，继续创建吗？ "_s;
+        const QString longest(200, u'长');
+        answer<frmSmsm>({{u"txtMID"_s, u"0"_s}}, {{u"txtText"_s, u"节日快乐"_s}});
+        expect_question(go_on, QMessageBox::Yes);
+        answer<frmSmsm>({{u"txtText"_s, u"节日快乐"_s}}, {{u"txtText"_s, u"it's"_s}});
+        user::expect_box(u"不能保存 "_s, u"输入错误，不能保存短语信息，请检查！"_s);
+        answer<frmSmsm>({{u"txtText"_s, u"it's"_s}}, {{u"txtText"_s, longest + u'!'}});
+        expect_refusal(u"输入的短语太长错误，请检查！  "_s);
+        answer<frmSmsm>({{u"txtText"_s, longest + u'!'}}, {{u"txtText"_s, longest}});
+        expect_question(go_on, QMessageBox::Yes);
+        answer<frmSmsm>({{u"txtText"_s, longest}}, {}, u"cmdcancel"_s);
+        const frmdatagrid& list = program_.list(u"mnuCreTech"_s);
+        user::click(list, u"Add"_s);
+        QCOMPARE(column_of(list, 1), u"早安 晚安 节日快乐 "_s + longest);
+    }
+
+    void writes_the_key_of_the_number_box() {
+        answer<frmSmsm>({{u"txtMID"_s, u"1"_s}}, {{u"txtText"_s, u"it's"_s}});
+        user::expect_box(u"不成功"_s, u"修改了短语不成功。 "_s);
+        answer<frmSmsm>({{u"txtText"_s, u"it's"_s}}, {{u"txtMID"_s, u"abc"_s}});
+        expect_refusal(u"输入错误"_s);
+        answer<frmSmsm>({{u"txtMID"_s, u"abc"_s}}, {{u"txtMID"_s, u"40000"_s}});
+        expect_refusal(u"输入错误"_s);
+        answer<frmSmsm>({{u"txtMID"_s, u"40000"_s}, {u"txtText"_s, u"it's"_s}},
+                        {{u"txtMID"_s, u"2"_s}, {u"txtText"_s, u"新年好"_s}});
+        user::expect_box(u"保存成功"_s, u"成功地修改了短语。 "_s);
+        const frmdatagrid& list = program_.list(u"mnuCreTech"_s);
+        user::click(list, u"Edit"_s);
+        QCOMPARE(column_of(list, 1), u"早安 新年好"_s);
+    }
+
+    void edits_and_deletes_only_what_is_there() {
+        const frmdatagrid& list = program_.list(u"mnuCreTech"_s);
+        test_database::execute(u"delete from smsmodels where mid=1"_s); // by somebody else
+        user::expect_box(u"修改"_s, u"不能修改短语, 记录不存在！"_s);
+        user::click(list, u"Edit"_s);
+        user::expect_box(u"删除成功"_s, u"成功删除短语"_s);
+        user::click(list, u"Delete"_s);
+        QVERIFY(test_database::rows(u"select * from smsmodels"_s).isEmpty());
+        user::expect_box(u"不能删除"_s, u"不能删除短语"_s);
+        user::click(list, u"Delete"_s);
+    }
+
+    void keeps_every_box_of_a_refused_customer() {
+        box_texts typed{{u"txtMobile"_s, u"   "_s}, {u"txtCname"_s, u"O'Hara"_s},
+                        {u"txtSex"_s, u"男"_s},     {u"txtbirth"_s, u"五月"_s},
+                        {u"txtphone"_s, u"010"_s},  {u"txtmemo"_s, u"c\nd"_s}};
+        answer<frmCustomer>({}, typed);
+        expect_refusal(u"输入的客户信息错误，必须输入手机号码，请检查！  "_s);
+        answer<frmCustomer>(typed, {{u"txtMobile"_s, u"abc"_s}});
+        user::expect_box(u"不能保存 "_s, u"输入错误，不能保存客户信息，请检查！"_s);
+        typed[0].second = u"abc"_s;
+        answer<frmCustomer>(typed, {{u"txtCname"_s, u"张三"_s}});
+        expect_question(u"成功创建一个客户信息，继续创建吗？ "_s, QMessageBox::No);
+        const frmdatagrid& list = program_.list(u"mnuProject"_s);
+        user::click(list, u"Add"_s);
+        answer<frmCustomer>({}, {{u"txtMobile"_s, u"138"_s}}); // the first one's remark is left
+        user::expect_box(u"保存成功"_s, u"成功地修改了客户。 "_s);
+        user::click(list, u"Edit"_s);
+        QCOMPARE(test_database::rows(u"select cname,mobile,sex,birth,phone,memo from customer"_s),
+                 (QStringList{u"李四|138||||a\r\nb"_s, u"张三|abc|男|五月|010|c\nd"_s}));
+    }
+
+    void checks_the_port() {
+        QString last = u"1"_s;
+        for (const auto& port : {u"-1"_s, u"40000"_s, u"abc"_s, QString()}) {
+            answer<FrmParameter>({{u"txtport"_s, last}}, {{u"txtport"_s, port}});
+            expect_refusal(u"输入的参数错误，请检查！  "_s);
+            last = port;
+        }
+        answer<FrmParameter>({}, {{u"txtip"_s, {}}, {u"txtport"_s, u"0"_s}});
+        user::expect_box(u"保存成功"_s, u"成功地修改了参数。 "_s);
+        user::choose(program_.window, u"mnuPara"_s);
+        QCOMPARE(test_database::rows(u"select * from parameters"_s), QStringList{u"|0"_s});
+        test_database::execute(u"delete from parameters"_s);
+        user::expect_box(u"修改"_s, u"不能修改参数, 记录不存在！"_s);
+        user::choose(program_.window, u"mnuPara"_s);
+    }
+
+    void sends_at_once_or_later() {
+        const QString go_on = u"成功创建一个短信信息，继续创建吗？ "_s;
+        answer<frmSendsms>({{u"txtCid"_s, u"0"_s}}, {{u"txtSms"_s, u"  "_s}});
+        expect_refusal(u"输入的短信信息错误，必须输入短信，请检查！  "_s); // nor is there a mobile
+        answer<frmSendsms>({}, {{u"txtSms"_s, u"你好"_s}, {u"txtMobile"_s, u"  "_s}});
+        expect_refusal(u"输入的短信信息错误，必须输入手机号码，请检查！  "_s);
+        answer<frmSendsms>({{u"txtMobile"_s, u"  "_s}}, {}, u"cmdrefsms"_s);
+        pick(u"cmdcancel"_s);
+        answer<frmSendsms>({{u"txtSms"_s, u"你好"_s}}, {}, u"cmdrefsms"_s);
+        pick();
+        answer<frmSendsms>({{u"txtSms"_s, u"晚安"_s}}, {}, u"Cmdrefcus"_s);
+        pick();
+        answer<frmSendsms>({{u"txtCname"_s, u"李四"_s}}, {});
+        expect_question(go_on, QMessageBox::Yes);
+        user::during_modal<frmSendsms>([](frmSendsms& dialog) {
+            const QString format = u"yyyy-MM-dd HH:mm:ss"_s;
+            const auto shown = QDateTime::fromString(user::text_of(dialog, u"txtStime"_s), format);
+            user::type(dialog, u"txtStime"_s, u"2024-02-30 08:00:00"_s);
+            expect_refusal(u"输入错误"_s);
+            user::click(dialog, u"cmdok"_s);
+            user::type(dialog, u"txtStime"_s, shown.addSecs(1).toString(format));
+            test_database::execute(u"delete from customer"_s);
+            pick();
+            expect_refusal(u"No select object"_s, u"Warning"_s);
+            pick(u"cmdcancel"_s);
+            user::click(dialog, u"Cmdrefcus"_s);
+            QCOMPARE(user::text_of(dialog, u"txtMobile"_s), u"139"_s);
+            user::type(dialog, u"txtCid"_s, {});
+            expect_question(u"成功创建一个短信信息，继续创建吗？ "_s, QMessageBox::No);
+            user::click(dialog, u"cmdok"_s);
+        });
+        user::click(program_.list(u"mnusend"_s), u"Add"_s);
+        QCOMPARE(test_database::rows(
+                     u"select mobile, sms, cid, imsend, stime > rtime, sendisok from sendsms"_s),
+                 (QStringList{u"139|晚安|1|-1|0|0"_s, u"139|晚安|0|0|1|0"_s}));
+    }
+
+    void received_messages_are_only_deleted() {
+        test_database::execute(
+            u"insert into recvedsms values (1, '139', '好', '2024/01/31 08:00:00', 1)"_s);
+        const frmdatagrid& list = program_.list(u"mnunewcustomer"_s);
+        user::click(list, u"Add"_s);
+        user::click(list, u"Edit"_s);
+        user::expect_box(u"删除成功"_s, u"成功删除短信"_s);
+        user::click(list, u"Delete"_s);
+        QVERIFY(test_database::rows(u"select * from recvedsms"_s).isEmpty());
+    }
+
+    void are_named_and_in_order() {
+        spListHeaders columns = make_picker_columns(u"常用语"_s, {}, {{u"mid", u"编号", 900}});
+        Recordset rows;
+        vc_parameter nothing_to_pick;
+        check_order(frmSmsm());
+        check_order(frmCustomer());
+        check_order(FrmParameter());
+        check_order(frmSendsms(nothing_to_pick, nothing_to_pick, system_clock));
+        check_order(frmLogin());
+        check_order(frmFind(columns));
+        check_order(frmSort(columns));
+        check_order(frmref(columns, rows));
+    }
+};
+
+QTEST_MAIN(test_dialogs)
+#include "test_dialogs.moc"

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "listview/frmFind.h"
+#include "listview/frmSort.h"
+#include "tests/screens/screen_fixture.h"
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QComboBox>
+#include <QToolBar>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Confirms a choice in the sort or find dialog; a column of -1 leaves the column open.
+void choose(const QWidget& dialog, int column, int option) {
+    user::find<QComboBox>(dialog, u"ComboColName"_s).setCurrentIndex(column);
+    user::click(dialog, u"Option1_%1"_s.arg(option));
+    user::click(dialog, u"cmdOK"_s);
+}
+
+} // namespace
+
+/// The one list window, over phrases.
+class test_list_window : public QObject {
+    Q_OBJECT
+
+    screen_fixture program_;
+
+    frmdatagrid& open() { return program_.list(u"mnuCreTech"_s); }
+
+private slots:
+    void init() {
+        test_database::execute(u"delete from smsmodels"_s);
+        test_database::execute(
+            u"insert into smsmodels values (1, 'B'), (2, 'a'), (10, 'c'), (11, 'A')"_s);
+    }
+
+    void cleanup() {
+        program_.area.closeAllSubWindows();
+        QVERIFY(user::all_answered());
+    }
+
+    void has_the_buttons_of_its_mode() {
+        const QMap<QString, QString> first{{u"all"_s, u"Add增加 Edit修改 Delete删除 | "_s},
+                                           {u"modify"_s, u"Edit修改 | "_s},
+                                           {u"ALL"_s, QString()}};
+        QWidget window;
+        QToolBar toolbar(&window);
+        image_list images;
+        for (auto mode = first.begin(); mode != first.end(); ++mode) {
+            build_toolbar(images, toolbar, true, mode.key());
+            QStringList shown;
+            for (const QAction* button : toolbar.actions()) {
+                QVERIFY(button->isSeparator() || !button->icon().isNull());
+                shown.append(button->isSeparator() ? u"|"_s
+                                                   : button->objectName() + button->text());
+            }
+            QCOMPARE(
+                shown.join(u' '),
+                *mode +
+                    u"find查找 sort排序 setfield设置 refresh刷新 Save保存 | Help帮助 Exit退出"_s);
+        }
+    }
+
+    void finds_in_both_directions() {
+        const frmdatagrid& list = open();
+        const auto find = [&list](int option, const QString& text, bool found = true) {
+            user::during_modal<frmFind>([=](frmFind& dialog) {
+                user::type(dialog, u"txtV"_s, text);
+                choose(dialog, -1, option); // stands for the second column
+            });
+            if (!found) {
+                user::expect_box(u"Information"_s, u"Cann't find! "_s);
+            }
+            user::click(list, u"find"_s);
+            return list.value(u"mid"_s);
+        };
+        QCOMPARE(find(0, u"A"_s), u"2"_s);
+        QCOMPARE(find(0, u"a"_s), u"11"_s);
+        QCOMPARE(find(1, u"a"_s), u"2"_s);
+        find(1, u"a"_s, false); // and the cursor left the rows
+        QCOMPARE(find(0, u"c"_s), u"10"_s);
+    }
+
+    void keeps_its_order_and_row() {
+        const frmdatagrid& list = open();
+        const frmdatagrid& other = open();
+        const QAbstractItemModelTester tester(grid_of(list).model());
+        user::during_modal<frmSort>([](frmSort& dialog) { choose(dialog, 0, 0); });
+        user::click(list, u"sort"_s);
+        QCOMPARE(column_of(list, 0), u"11 10 2 1"_s);
+        user::during_modal<frmSort>([](frmSort& dialog) { choose(dialog, -1, 1); });
+        user::click(list, u"sort"_s);
+        QCOMPARE(column_of(list, 0), u"2 11 1 10"_s);
+        grid_of(list).selectRow(2);
+        test_database::execute(u"insert into smsmodels values (12, 'Aa')"_s);
+        user::click(list, u"refresh"_s);
+        QCOMPARE(column_of(list, 1), u"a A Aa B c"_s);
+        QCOMPARE(list.value(u"mid"_s), u"1"_s);
+        QCOMPARE(column_of(other, 0), u"1 2 10 11"_s);
+
+        user::press_key(program_.window, Qt::Key_Escape);
+        user::click(list, u"Help"_s);
+        QCOMPARE(program_.area.subWindowList().size(), 2);
+        user::click(list, u"Exit"_s);
+        QTRY_COMPARE(program_.area.subWindowList().size(), 1);
+    }
+
+    void needs_a_second_column_to_choose_by_itself() {
+        spListHeaders headers;
+        headers.Add({.key = u"mid"_s, .caption = u"编号"_s});
+        frmSort dialog(headers);
+        dialog.show();
+        user::expect_box(u"提示"_s, u"请先选择列名！"_s);
+        choose(dialog, -1, 0);
+        QVERIFY(dialog.isVisible() && !dialog.confirmed);
+        choose(dialog, 0, 0);
+        QCOMPARE(dialog.result, u"mid DESC"_s);
+        choose(dialog, 0, 1);
+        QCOMPARE(dialog.result, u"mid ASC "_s);
+    }
+
+    void keeps_its_layout() {
+        const QString layout =
+            u"select Width, CondValue2 from viewitems where ViewNo='v_smsm' order by pos"_s;
+        test_database::execute(
+            u"update viewitems set Visible=0, CondValue2='x' where ViewNo='v_smsm' and pos=1"_s);
+        const frmdatagrid& list = open();
+        grid_of(list).setColumnWidth(1, 200);
+        user::click(list, u"Save"_s);
+        const QString saved = QString::number(200 * 1440 / list.logicalDpiX());
+        QCOMPARE(test_database::rows(layout), (QStringList{u"900|x"_s, saved + u'|'}));
+        QCOMPARE(grid_of(open()).columnWidth(1), 200);
+
+        test_database::execute(u"delete from viewitems where ViewNo='v_smsm' and pos=2"_s);
+        grid_of(list).setColumnHidden(0, false);
+        grid_of(list).setColumnWidth(0, 300);
+        user::expect_box(u"系统提示"_s, u"数据库操作失败。\n\nthere is no current row"_s,
+                         QMessageBox::Ok, QMessageBox::Critical);
+        user::click(list, u"Save"_s);
+        QCOMPARE(test_database::rows(layout), QStringList{u"900|x"_s});
+    }
+};
+
+QTEST_MAIN(test_list_window)
+#include "test_list_window.moc"

@@ -1,0 +1,200 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "app/application_title.h"
+#include "app/frmLogin.h"
+#include "platform/settings_store.h"
+#include "tests/screens/screen_fixture.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString setting(const QString& key) {
+    return settings_store::get(application_title(), settings_section(), key, u"none"_s);
+}
+
+void set_setting(const QString& key, const QString& value) {
+    settings_store::save(application_title(), settings_section(), key, value);
+}
+
+} // namespace
+
+/// From the login to the end of the main window: who may do what, and where the window stands.
+class test_session : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<screen_fixture> program_;
+
+private slots:
+    void init() { program_ = std::make_unique<screen_fixture>(); }
+
+    void cleanup() {
+        QVERIFY(user::all_answered());
+        program_.reset();
+        releaseuser();
+    }
+
+    void logs_in_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("stored"); // as a literal
+        QTest::addColumn<QString>("error");  // "box" for the login's own
+        const QString me = u"valdrine"_s;
+        QTest::newRow("no password") << me << QString() << u"''"_s << QString();
+        QTest::newRow("blanks") << me << u"  "_s << u"''"_s << QString();
+        QTest::newRow("any case") << u"VALDRINE"_s << u"Pass"_s << u"'pASS'"_s << QString();
+        QTest::newRow("blank before name") << u" valdrine"_s << QString() << u"''"_s << u"box"_s;
+        QTest::newRow("wrong") << me << u"x"_s << u"'y'"_s << u"box"_s;
+        QTest::newRow("needs one") << me << QString() << u"'y'"_s << u"box"_s;
+        QTest::newRow("quote") << u"' or '1'='1"_s << QString() << u"''"_s
+                               << u"输入的内容不能含有单引号，请检查！"_s;
+        QTest::newRow("Null") << me << QString() << u"null"_s
+                              << u"数据的格式或者范围不正确。\n\ninvalid use of Null"_s;
+    }
+
+    void logs_in() {
+        QFETCH(const QString, name);
+        QFETCH(const QString, typed);
+        QFETCH(const QString, stored);
+        QFETCH(const QString, error);
+        test_database::execute(u"update users set password="_s + stored);
+        curuser->logout();
+        frmLogin login;
+        login.show();
+        user::type(login, u"txtUserName"_s, name);
+        user::type(login, u"txtPassword"_s, typed);
+        if (error == u"box"_s) {
+            user::expect_box(u"登录错误"_s, u"用户名称或者口令输入错误，请重新输入！"_s,
+                             QMessageBox::Ok, QMessageBox::NoIcon);
+        } else if (!error.isEmpty()) {
+            user::expect_box(u"系统提示"_s, error, QMessageBox::Ok, QMessageBox::Critical);
+        }
+        user::click(login, u"cmdOK"_s);
+        QCOMPARE(login.loginok, error.isEmpty());
+        QCOMPARE(login.failed, !error.isEmpty() && error != u"box"_s);
+        QCOMPARE(login.isVisible(), error == u"box"_s);
+        QVERIFY(!login.loginok || curuser->CanDo(function_id::operator_administration, true));
+        const auto* focus = qobject_cast<QLineEdit*>(login.focusWidget());
+        QVERIFY(!login.isVisible() || (focus->objectName() == u"txtPassword"_s &&
+                                       focus->selectedText().size() == typed.size()));
+    }
+
+    void guards_every_command_data() {
+        QTest::addColumn<qint16>("with_other_right");
+        for (const char* item : {"mnuSysUSer", "mnuSysRight"}) {
+            QTest::newRow(item) << qint16{3};
+        }
+        for (const char* item : {"mnucusclass", "mnuProject", "mnugroup", "mnuCreTech", "mnusend",
+                                 "mnuTIMEC", "mnunewcustomer", "mnuPara"}) {
+            QTest::newRow(item) << qint16{2};
+        }
+    }
+
+    void guards_every_command() {
+        QFETCH(const qint16, with_other_right);
+        test_database::execute(u"insert into rights (userid, funid) values (2, 1), (3, 2)"_s);
+        test_database::execute(u"insert into rights (userid, funid) values (0, 1), (0, 2)"_s);
+        const QList<std::pair<qint16, QString>> titles{
+            {with_other_right, u"提示"_s}, {4, {}}, {0, {}}, {-1, u"提示"_s}};
+        for (const auto& [userid, title] : titles) {
+            curuser->set_userid(userid);
+            user::expect_box(title, u"你没有权限操作这项功能!"_s);
+            user::choose(program_->window, QString::fromLatin1(QTest::currentDataTag()));
+            QVERIFY(user::all_answered() && program_->area.subWindowList().isEmpty());
+        }
+    }
+
+    void logs_out_and_in_again() {
+        const QAction& item = user::find<QAction>(program_->window, u"logout"_s);
+        const auto shown = [&] {
+            return item.text() + user::text_of(program_->window, u"Panel2"_s);
+        };
+        QCOMPARE(shown(), u"注销我自己操作员：valdrine"_s);
+        user::choose(program_->window, u"logout"_s);
+        QCOMPARE(shown(), u"注册操作员："_s);
+        for (const auto& button : {u"cmdCancel"_s, u"cmdOK"_s}) {
+            user::during_modal<frmLogin>([&](frmLogin& login) { user::click(login, button); });
+            user::choose(program_->window, u"logout"_s);
+            QCOMPARE(shown(),
+                     button == u"cmdOK"_s ? u"注消我自己操作员：valdrine"_s : u"注册操作员："_s);
+        }
+        for (const auto& off : {u"mnusendtoall"_s, u"mnustartsend"_s, u"mnustopsend"_s}) {
+            QVERIFY(!user::find<QAction>(program_->window, off).isEnabled());
+        }
+        QVERIFY(!user::find<QMenu>(program_->window, u"mnuOut"_s).menuAction()->isEnabled());
+    }
+
+    void keeps_its_place() {
+        frmMain& window = program_->window;
+        const auto place = [&window](int left, int top, int width, int height) {
+            const double dpi = window.logicalDpiX();
+            return QRect(qRound(left * dpi / 1440), qRound(top * dpi / 1440),
+                         qRound(width * dpi / 1440), qRound(height * dpi / 1440));
+        };
+        const auto place_of_next = [] {
+            curuser = std::make_unique<rsclsuser>();
+            client next;
+            const frmMain& opened = next.open_main_window();
+            return QRect(opened.pos(), opened.size());
+        };
+        QCOMPARE(place_of_next(), place(1000, 1000, 6500, 6500));
+        window.showMinimized();
+        window.close();
+        QCOMPARE(setting(u"MainLeft"_s), u"none"_s);
+        window.showNormal();
+        window.move(place(600, 900, 0, 0).topLeft());
+        window.resize(place(0, 0, 7500, 4500).size());
+        window.close();
+        QCOMPARE(setting(u"MainLeft"_s), u"600"_s);
+        QCOMPARE(place_of_next(), place(600, 900, 7500, 4500));
+        set_setting(u"MainLeft"_s, u"左"_s);
+        user::expect_box(u"系统提示"_s, u"窗口位置的设置不是数字，已恢复为默认值。"_s);
+        QCOMPARE(place_of_next(), place(1000, 1000, 6500, 6500));
+    }
+
+    void tiles_windows() {
+        static_cast<void>(program_->list(u"mnuProject"_s));
+        static_cast<void>(program_->list(u"mnuCreTech"_s));
+        const auto windows = program_->area.subWindowList();
+        const QSize room = program_->area.viewport()->size();
+        user::choose(program_->window, u"mnuWindowTileHorizontal"_s);
+        QCOMPARE(windows[0]->size() + QSize(0, windows[1]->height()), room);
+        QVERIFY(!windows[0]->geometry().intersects(windows[1]->geometry()));
+        user::choose(program_->window, u"mnuWindowTileVertical"_s);
+        QCOMPARE(windows[0]->size() + QSize(windows[1]->width(), 0), room);
+        QVERIFY(!windows[0]->geometry().intersects(windows[1]->geometry()));
+    }
+
+    void refuses_what_is_no_database() {
+        const QTemporaryDir folder;
+        const auto start = [](const QString& directory, const QString& error) {
+            set_setting(u"connection"_s, u"server"_s);
+            user::expect_box(u"系统提示"_s, error, QMessageBox::Ok, QMessageBox::Critical);
+            QCOMPARE(start_session(directory), std::optional(1));
+        };
+        start(folder.filePath(u"missing"_s),
+              u"不能打开数据库文件，请检查文件和目录的权限。\n\n此文件或目录不存在"_s);
+        const QList<std::pair<QByteArray, QString>> files{
+            {QByteArray(4096, 'x'),
+             u"数据库文件已经损坏，或者不是本系统的数据库，请用备份恢复。"_s},
+            {QByteArray("\0\1\0\0Standard Jet DB\0", 20),
+             u"数据库文件是旧的格式，请先用导入工具“smsdb import”把它转换成新的数据库，原文件没有改动。"_s}};
+        for (const auto& [content, error] : files) {
+            QFile file(folder.filePath(u"sms.old.mdb"_s));
+            QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Truncate));
+            QVERIFY(file.write(content) == content.size() && file.flush());
+            user::during_modal<frmLogin>([](frmLogin& login) { user::click(login, u"cmdOK"_s); });
+            start(folder.path(), error);
+            QVERIFY(file.seek(0) && file.readAll() == content);
+            QCOMPARE(setting(u"connection"_s), QString()); // no server name outlives a restart
+        }
+    }
+};
+
+QTEST_MAIN(test_session)
+#include "test_session.moc"
