@@ -142,13 +142,6 @@ private slots:
         QCOMPARE(journal_values(u"mobile"_s).first(), u"8613912345678"_s);
     }
 
-    void limits_waiting_messages() {
-        serve({});
-        process_->write(QByteArray("recv 8610086 again\n").repeated(3'000));
-        QByteArray told;
-        QTRY_VERIFY((told += process_->readAllStandardError()).contains("too many messages wait"));
-    }
-
     void echoes() {
         serve({u"--echo"_s, u"--echo-delay"_s, u"0"_s});
         client_->send(message_);

@@ -9,8 +9,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <array>
-
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -53,14 +51,6 @@ private slots:
         const auto message = gateway::parse_submission(bytes);
         QCOMPARE(message ? message->mobile + u'|' + message->text : QString(), read);
         QVERIFY(!gateway::parse_submission(bytes + 'x')); // half a character too many
-    }
-
-    void keeps_every_unit() {
-        const std::array<char16_t, 5> units{0xDC00, u'a', 0, 0xFEFF, 0xD83D};
-        const QStringView odd(units.data(), units.size());
-        const QByteArray bytes = gateway::encode_text(odd);
-        QCOMPARE(bytes, QByteArray::fromHex("00dc61000000fffe3dd8"));
-        QCOMPARE(gateway::decode_text(bytes), odd);
     }
 
     void writes_frames() {

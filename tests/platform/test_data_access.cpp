@@ -5,7 +5,9 @@
 #include "platform/recordset.h"
 #include "tests/support/error_of.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -150,12 +152,20 @@ private slots:
 
     void a_replaced_file_is_noticed() {
         run(u"delete from people where id=1"_s); // leaves a connection in the pool
-        connection_pool::fold_logs(); // as happens by itself a moment later
+        connection_pool::fold_logs();            // as happens by itself a moment later
         make_people(path_ + u'2');
         QVERIFY(QFile::remove(path_) && QFile::rename(path_ + u'2', path_));
         run(u"delete from people where id=2"_s);
         connection_pool::clear();
         QCOMPARE(run(u"select id from people"_s), u"1 3 4 10"_s);
+    }
+
+    void another_program_does_not_take_the_log_away() {
+        run(u"delete from people where id=1"_s);
+        const SqliteDatabase second(path_); // must leave the locks of the first alone
+        QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(), {u"--visit"_s, path_}),
+                 0);
+        QVERIFY(QFile::exists(path_ + u"-wal"_s));
     }
 
     void a_lock_is_reported_and_stops_no_reader() {
@@ -166,5 +176,14 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(test_data_access)
+int main(int argc, char* argv[]) {
+    QCoreApplication app(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == u"--visit") { // plays another program that uses the file
+        SqliteDatabase(arguments.value(2)).execute(u"select * from people"_s);
+        return 0;
+    }
+    test_data_access tests;
+    return QTest::qExec(&tests, argc, argv);
+}
 #include "test_data_access.moc"

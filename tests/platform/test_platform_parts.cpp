@@ -3,11 +3,9 @@
 
 #include "platform/conversion.h"
 #include "platform/display_format.h"
-#include "platform/interval_timer.h"
 #include "platform/winsock.h"
 #include "tests/support/error_of.h"
 
-#include <QSignalSpy>
 #include <QTcpServer>
 #include <QTest>
 
@@ -77,22 +75,6 @@ private slots:
         socket.Close();
         socket.Connect();
         QTRY_COMPARE(socket.State(), State::error); // refused
-    }
-
-    void a_timer_needs_its_switch_and_its_interval() {
-        IntervalTimer timer;
-        IntervalTimer other;
-        QSignalSpy ticks(&other, &IntervalTimer::Timer);
-        other.set_Interval(1);
-        for (const auto& [enabled, interval] :
-             {std::pair(true, 0), {false, 1}, {true, 1}, {true, -1}, {true, 3'600'000}}) {
-            timer.set_Enabled(enabled);
-            timer.set_Interval(interval);
-            QSignalSpy own_ticks(&timer, &IntervalTimer::Timer);
-            ticks.clear();
-            QTRY_VERIFY(ticks.count() >= 5);
-            QCOMPARE(own_ticks.isEmpty(), !enabled || interval != 1);
-        }
     }
 };
 
