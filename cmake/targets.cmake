@@ -32,6 +32,13 @@ function(smscrm_program name)
     target_link_libraries(${name} PRIVATE smscrm_options ${arg_LINKS})
 endfunction()
 
+# What every test's surroundings hold.
+set(smscrm_test_environment
+    LC_ALL=C.UTF-8
+    LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/sanitizer-leaks.txt:print_suppressions=0
+    QT_LOGGING_RULES=*.debug=false
+)
+
 # smscrm_test(NAME SOURCES file... LINKS target...): a Qt Test program, run headless by CTest.
 # The time limit is a watchdog against a hang, not a measure of speed.
 function(smscrm_test name)
@@ -42,6 +49,6 @@ function(smscrm_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(
         ${name} PROPERTIES TIMEOUT 120
-                           ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QT_LOGGING_RULES=*.debug=false"
+                           ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${smscrm_test_environment}"
     )
 endfunction()
