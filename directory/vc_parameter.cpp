@@ -11,13 +11,9 @@
 namespace {
 
 constexpr entity_messages texts{
-    .insert_failed = {},
-    .insert_succeeded = {},
     .record_missing = u"不能修改参数, 记录不存在！",
     .update_failed = u"修改参数不成功。 ",
     .update_succeeded = u"成功地修改了参数。 ",
-    .delete_succeeded = {},
-    .delete_failed = {},
 };
 
 /// The port is a 16-bit number, so only the lower bound can ever refuse one.

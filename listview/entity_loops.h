@@ -9,15 +9,16 @@
 
 class edit_dialog;
 
-/// What an entity's screens say; the titles are the same for all entities.
+/// What an entity's screens say, as far as they can do it; the titles are the same for all
+/// entities.
 struct entity_messages {
-    QStringView insert_failed;
-    QStringView insert_succeeded; ///< asks whether to go on
-    QStringView record_missing;
-    QStringView update_failed;
-    QStringView update_succeeded;
-    QStringView delete_succeeded;
-    QStringView delete_failed;
+    QStringView insert_failed = {};
+    QStringView insert_succeeded = {}; ///< asks whether to go on
+    QStringView record_missing = {};
+    QStringView update_failed = {};
+    QStringView update_succeeded = {};
+    QStringView delete_succeeded = {};
+    QStringView delete_failed = {};
 };
 
 /// A step of a loop on the dialog's record: its check (which shows its own message) or its storing.

@@ -64,31 +64,25 @@ void frmdatagrid::press(const QString& key) {
     }
 }
 
-void frmdatagrid::faddnew() {
+void frmdatagrid::run_and_refresh(const std::function<void()>& command, const QString& failure) {
     try {
-        controller_.createrec();
+        command();
     } catch (const std::exception&) {
-        msgbox::information(u"不能创建图形资料！"_s, u"错误"_s);
+        msgbox::information(failure, u"错误"_s);
     }
     fRefresh();
+}
+
+void frmdatagrid::faddnew() {
+    run_and_refresh([this] { controller_.createrec(); }, u"不能创建图形资料！"_s);
 }
 
 void frmdatagrid::Fedit() {
-    try {
-        controller_.modifyrec(current_id());
-    } catch (const std::exception&) {
-        msgbox::information(u"修改错误"_s, u"错误"_s);
-    }
-    fRefresh();
+    run_and_refresh([this] { controller_.modifyrec(current_id()); }, u"修改错误"_s);
 }
 
 void frmdatagrid::fdelete() {
-    try {
-        controller_.deleterec(current_id());
-    } catch (const std::exception&) {
-        msgbox::information(u"删除错误"_s, u"错误"_s);
-    }
-    fRefresh();
+    run_and_refresh([this] { controller_.deleterec(current_id()); }, u"删除错误"_s);
 }
 
 void frmdatagrid::fFind() {

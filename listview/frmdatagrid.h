@@ -9,6 +9,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class DataGrid;
 class QAction;
 class QMdiArea;
@@ -45,6 +47,8 @@ public:
 
 private:
     void press(const QString& key);
+    /// Runs a command of the controller, tells when it fails, and shows the rows anew in any case.
+    void run_and_refresh(const std::function<void()>& command, const QString& failure);
     void close_window();
     [[nodiscard]] qint16 current_id() const;
     void restore_position(const QVariant& key, qsizetype row);

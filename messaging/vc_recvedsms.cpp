@@ -6,11 +6,6 @@
 namespace {
 
 constexpr entity_messages texts{
-    .insert_failed = {},
-    .insert_succeeded = {},
-    .record_missing = {},
-    .update_failed = {},
-    .update_succeeded = {},
     .delete_succeeded = u"成功删除短信",
     .delete_failed = u"不能删除短信",
 };

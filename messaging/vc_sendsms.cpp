@@ -14,9 +14,6 @@ namespace {
 constexpr entity_messages texts{
     .insert_failed = u"输入错误，不能保存短信信息，请检查！",
     .insert_succeeded = u"成功创建一个短信信息，继续创建吗？ ",
-    .record_missing = {},
-    .update_failed = {},
-    .update_succeeded = {},
     .delete_succeeded = u"成功删除短信",
     .delete_failed = u"不能删除短信",
 };
