@@ -18,19 +18,24 @@ void declare_options(QCommandLineParser& parser) {
     parser.addOptions({
         {{u"h"_s, u"help"_s}, u"Print this help and exit."_s},
         {{u"v"_s, u"version"_s}, u"Print the version and exit."_s},
-        {u"listen"_s, u"Serve clients on this address; port 0 takes a free one."_s,
+        {u"listen"_s,
+         u"Serve clients on this address; port 0 takes a free one (default 127.0.0.1:9100)."_s,
          u"address:port"_s, u"127.0.0.1:9100"_s},
-        {u"backend"_s, u"The network to use: simulator."_s, u"name"_s, u"simulator"_s},
-        {u"fail-rate"_s, u"Probability, 0 to 1, that a message fails."_s, u"P"_s, u"0"_s},
-        {u"drop-rate"_s, u"Probability, 0 to 1, that a message gets no verdict."_s, u"P"_s, u"0"_s},
-        {u"delay"_s, u"Milliseconds before a verdict."_s, u"ms"_s, u"0"_s},
+        {u"backend"_s, u"The network to use; simulator is the only one yet and the default."_s,
+         u"name"_s, u"simulator"_s},
+        {u"fail-rate"_s, u"Probability, 0 to 1, that a message fails (default 0)."_s, u"P"_s,
+         u"0"_s},
+        {u"drop-rate"_s, u"Probability, 0 to 1, that a message gets no verdict (default 0)."_s,
+         u"P"_s, u"0"_s},
+        {u"delay"_s, u"Milliseconds before a verdict (default 0)."_s, u"ms"_s, u"0"_s},
         {u"journal"_s, u"Append a JSON line for every message to this file."_s, u"file"_s},
         {u"control"_s,
          u"Read commands from this FIFO as well as from standard input. The command "
          "\"recv NUMBER TEXT\" lets a message arrive."_s,
          u"fifo"_s},
         {u"echo"_s, u"Answer every sent message with a received one."_s},
-        {u"echo-delay"_s, u"Milliseconds before such an answer."_s, u"ms"_s, u"1000"_s},
+        {u"echo-delay"_s, u"Milliseconds before such an answer (default 1000)."_s, u"ms"_s,
+         u"1000"_s},
     });
 }
 

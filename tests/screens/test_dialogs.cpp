@@ -128,6 +128,13 @@ private slots:
         QVERIFY(test_database::rows(u"select * from smsmodels"_s).isEmpty());
         user::expect_box(u"不能删除"_s, u"不能删除短语"_s);
         user::click(list, u"Delete"_s);
+        test_database::execute(u"insert into smsmodels values (32768, '太多')"_s);
+        user::click(list, u"refresh"_s);
+        user::expect_box(u"错误"_s, u"修改错误"_s); // the key is no 16-bit number
+        user::click(list, u"Edit"_s);
+        user::expect_box(u"错误"_s, u"删除错误"_s);
+        user::click(list, u"Delete"_s);
+        QCOMPARE(column_of(list, 0), u"32768"_s);
     }
 
     void keeps_every_box_of_a_refused_customer() {
