@@ -18,7 +18,7 @@ if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     echo "No display: the guided tour runs on a virtual one."
     # The window manager gives the pictures their title bars.
     xvfb-run -a -s "-screen 0 1280x900x24 -noreset" \
-        bash -c 'openbox & sleep 1; exec "$0" --pictures build/tour' "$bin/smscrm_tour"
+        bash -c 'openbox 2>/dev/null & sleep 1; exec "$0" --pictures build/tour' "$bin/smscrm_tour"
     echo "Its pictures are in build/tour."
     exit
 fi
