@@ -33,13 +33,19 @@ void wire(Screen& screen, Access& access) {
 client::client()
     : windows_(std::make_unique<QMdiArea>()),
       phrase_screen_(*windows_),
+      class_screen_(*windows_),
       customer_screen_(*windows_),
+      group_screen_(*windows_, class_screen_, customer_screen_),
       outgoing_screen_(*windows_, customer_screen_, phrase_screen_),
+      group_send_screen_(*windows_, class_screen_, phrase_screen_),
       received_screen_(*windows_) {
     wire(phrase_screen_, phrases_);
+    wire(class_screen_, classes_);
     wire(customer_screen_, customers_);
     wire(parameter_screen_, parameters_);
+    wire(group_screen_, groups_);
     wire(outgoing_screen_, outgoing_);
+    wire(group_send_screen_, group_sends_);
     wire(received_screen_, received_);
 }
 
@@ -49,9 +55,12 @@ frmMain& client::open_main_window() {
     main_window_ =
         std::make_unique<frmMain>(std::move(windows_),
                                   frmMain::controllers{.phrases = phrase_screen_,
+                                                       .classes = class_screen_,
                                                        .customers = customer_screen_,
                                                        .parameters = parameter_screen_,
+                                                       .groups = group_screen_,
                                                        .outgoing = outgoing_screen_,
+                                                       .group_sends = group_send_screen_,
                                                        .received = received_screen_},
                                   dispatch_engine::collaborators{.parameters = parameters_,
                                                                  .outgoing = outgoing_,

@@ -96,13 +96,13 @@ void frmMain::build_system_menu() {
 
 void frmMain::build_work_menu() {
     QMenu& menu = add_menu(*this, u"mnuIN"_s, u"日常工作(&C)"_s);
-    add_item(menu, u"mnucusclass"_s, u"客户分类目录"_s, with_right(function_id::daily_work));
+    add_item(menu, u"mnucusclass"_s, u"客户分类目录"_s, list_of(opened_.classes));
     add_item(menu, u"mnuProject"_s, u"客户资料"_s, list_of(opened_.customers));
-    add_item(menu, u"mnugroup"_s, u"客户分组"_s, with_right(function_id::daily_work));
+    add_item(menu, u"mnugroup"_s, u"客户分组"_s, list_of(opened_.groups));
     add_item(menu, u"mnuCreTech"_s, u"常用语"_s, list_of(opened_.phrases));
     menu.addSeparator()->setObjectName(u"mc"_s);
     add_item(menu, u"mnusend"_s, u"短信单发"_s, list_of(opened_.outgoing));
-    add_item(menu, u"mnuTIMEC"_s, u"短信群发"_s, with_right(function_id::daily_work));
+    add_item(menu, u"mnuTIMEC"_s, u"短信群发"_s, list_of(opened_.group_sends));
     add_item(menu, u"mnusendtoall"_s, u"向所有客户发送短信"_s)->setEnabled(false);
     menu.addSeparator()->setObjectName(u"mck"_s);
     add_item(menu, u"mnunewcustomer"_s, u"查询收到的短信"_s, list_of(opened_.received));

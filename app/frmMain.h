@@ -19,9 +19,12 @@ public:
     /// The controllers that the menus open.
     struct controllers {
         vc_in& phrases;
+        vc_in& classes;
         vc_in& customers;
         vc_in& parameters;
+        vc_in& groups;
         vc_in& outgoing;
+        vc_in& group_sends;
         vc_in& received;
     };
 

@@ -6,11 +6,14 @@
 #include "bench/bench_store.h"
 
 #include "data/c_customer.h"
+#include "data/c_gsendsms.h"
 #include "data/c_sendsms.h"
 #include "data/strconn.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
+
+#include <string>
 
 using namespace Qt::StringLiterals;
 
@@ -72,5 +75,42 @@ BENCHMARK_CAPTURE(searchsms, none_queued, false)
     ->Arg(10000)
     ->Arg(most_rows)
     ->Unit(benchmark::kMillisecond);
+
+/// The same inserts as plain statements in one transaction.
+void group_send_twin(benchmark::State& state) {
+    const bench_store store;
+    sqlite3* database = nullptr;
+    sqlite3_open(store.path().toUtf8().constData(), &database);
+    sqlite3_exec(database, "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
+    for (const auto step : state) {
+        sqlite3_exec(database, "BEGIN", nullptr, nullptr, nullptr);
+        for (int row = 1; row <= state.range(0); ++row) {
+            const std::string number = std::to_string(row);
+            const std::string statement =
+                "INSERT INTO sendsms (mobile,  sms,cid, sendisok,  smsfrom, imsend, rtime, stime) "
+                "values ('13900000" +
+                number + "','节日快乐，感谢您一直以来的支持！'," + number +
+                ",0,-1,0,'2024/01/31 08:00:00','2024/01/31 09:00:00')";
+            sqlite3_exec(database, statement.c_str(), nullptr, nullptr, nullptr);
+        }
+        sqlite3_exec(database, "COMMIT", nullptr, nullptr, nullptr);
+    }
+    sqlite3_close(database);
+}
+BENCHMARK(group_send_twin)->Arg(1000)->Arg(10000)->Arg(most_rows)->Unit(benchmark::kMillisecond);
+
+void group_send(benchmark::State& state) {
+    const bench_store store;
+    bench_store::fill_customers(static_cast<int>(state.range(0)));
+    c_gsendsms access;
+    access.connection = strconn;
+    const QDateTime moment(QDate(2024, 1, 31), QTime(8, 0));
+    for (const auto step : state) {
+        if (!access.addrec(u"节日快乐，感谢您一直以来的支持！"_s, 0, false, -1, moment, moment)) {
+            state.SkipWithError("the group send failed");
+        }
+    }
+}
+BENCHMARK(group_send)->Arg(1000)->Arg(10000)->Arg(most_rows)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "platform/data_error.h"
 #include "platform/widgets/msgbox.h"
 
+#include <QCheckBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -111,9 +112,15 @@ QLineEdit* edit_dialog::bind_line(std::function<QString()> load,
 
 QLineEdit* edit_dialog::add_number_beside(QWidget& box, const QString& name, const QString& purpose,
                                           qint16& field) {
-    QLineEdit* number = bind_line(
-        [&field] { return QString::number(field); },
-        [&field](const QString& text) { field = text.isEmpty() ? qint16{0} : to_int16(text); });
+    return add_converted_beside(
+        box, name, purpose, [&field] { return QString::number(field); },
+        [&field](const QString& text) { field = to_int16(text); });
+}
+
+QLineEdit* edit_dialog::add_converted_beside(QWidget& box, const QString& name,
+                                             const QString& purpose, std::function<QString()> load,
+                                             std::function<void(const QString&)> save) {
+    QLineEdit* number = bind_line(std::move(load), std::move(save));
     number->setObjectName(name);
     number->setAccessibleName(purpose);
     number->setToolTip(purpose);
@@ -137,6 +144,14 @@ QPlainTextEdit* edit_dialog::add_text(const QString& name, const QString& label,
     add_row(name, label, box);
     const auto shown = std::make_shared<QString>();
     bindings_.push_back({box, show_field(box, shown, field), save_if_changed(box, shown, field)});
+    return box;
+}
+
+QCheckBox* edit_dialog::add_check(const QString& name, const QString& caption, qint16& field) {
+    auto* box = new QCheckBox(caption, this);
+    add_row(name, {}, box);
+    bindings_.push_back({box, [box, &field] { box->setChecked(field != 0); },
+                         [box, &field] { field = box->isChecked() ? qint16{-1} : qint16{0}; }});
     return box;
 }
 

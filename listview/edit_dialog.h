@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+class QCheckBox;
 class QFormLayout;
 class QHBoxLayout;
 class QLineEdit;
@@ -39,14 +40,19 @@ protected:
     QLineEdit* add_line(const QString& name, const QString& label, QString& field);
     /// A box of several lines.
     QPlainTextEdit* add_text(const QString& name, const QString& label, QString& field);
+    /// A check box with a caption of its own; checked is -1, else 0.
+    QCheckBox* add_check(const QString& name, const QString& caption, qint16& field);
     /// A box with conversions of its own; `save` throws DataError for a text that it cannot read.
     QLineEdit* add_converted(const QString& name, const QString& label,
                              std::function<QString()> load,
                              std::function<void(const QString&)> save);
 
-    /// A number box without a label, behind another box; empty text is saved as 0.
+    // Narrow boxes without a label, behind another box; `purpose` is told by a tooltip.
     QLineEdit* add_number_beside(QWidget& box, const QString& name, const QString& purpose,
                                  qint16& field);
+    QLineEdit* add_converted_beside(QWidget& box, const QString& name, const QString& purpose,
+                                    std::function<QString()> load,
+                                    std::function<void(const QString&)> save);
 
     /// Puts a small button "…" behind a box.
     QPushButton* add_picker_button(const QString& name, QWidget& box, const QString& purpose);

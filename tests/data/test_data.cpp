@@ -4,6 +4,7 @@
 #include "data/c_cusclass.h"
 #include "data/c_customer.h"
 #include "data/c_group.h"
+#include "data/c_gsendsms.h"
 #include "data/c_parameter.h"
 #include "data/c_recvedsms.h"
 #include "data/c_sendsms.h"
@@ -35,6 +36,7 @@ class test_data : public QObject {
     c_parameter parameters_;
     c_sendsms outgoing_;
     c_recvedsms received_;
+    c_gsendsms group_sends_;
 
     static QString rows(const QString& statement) {
         return test_database::rows(statement).join(u' ');
@@ -71,7 +73,8 @@ private slots:
     void init() {
         database_.emplace();
         phrases_.connection = classes_.connection = customers_.connection = groups_.connection =
-            parameters_.connection = outgoing_.connection = received_.connection = strconn;
+            parameters_.connection = outgoing_.connection = received_.connection =
+                group_sends_.connection = strconn;
     }
 
     void a_fresh_database_lets_the_operator_in() {
@@ -184,6 +187,34 @@ private slots:
                      storable ? text + text + u's' + text : u""_s);
         }
         QCOMPARE(rows(u"select username from users"_s), u"valdrine"_s);
+    }
+
+    void a_group_send_becomes_messages() {
+        run(u"insert into customer (cid, mobile) values (1, '1'), (2, '2'), (3, '3''s'), (4, '4')"_s);
+        run(u"insert into cusclass values (5, 'A')"_s);
+        run(u"insert into cgroup (cid, ccid) values (1, 5), (4, 5), (4, 5), (9, 5), (2, 6)"_s);
+        const auto messages = [] {
+            const QString made = rows(
+                u"select mobile || cid || sms || sendisok || smsfrom || imsend || rtime || stime from sendsms order by smsid"_s);
+            run(u"delete from sendsms"_s);
+            return made;
+        };
+        const QString rest = u"%1Hi0-1-12023/12/31 23:59:592024/01/01 00:00:00"_s;
+        const QDateTime later = now_.addSecs(1);
+        QVERIFY(group_sends_.addrec(u"Hi"_s, 5, true, 0, now_, later));
+        QCOMPARE(messages(),
+                 rest.arg(u"11"_s) + u' ' + rest.arg(u"44"_s) + u' ' + rest.arg(u"44"_s));
+        QVERIFY(group_sends_.addrec(u"Hi"_s, 7, true, 0, now_, later)); // nobody is in it
+        QVERIFY(!group_sends_.addrec(u"it's"_s, 5, true, 0, now_, later));
+        QVERIFY(!group_sends_.addrec(u"Hi"_s, 5, true, -1, now_, later)); // stops at the third
+        QCOMPARE(messages(), rest.arg(u"11"_s) + u' ' + rest.arg(u"22"_s));
+        QCOMPARE(rows(u"select cid || sms || imsend || isall || cname from vwgsendsms"_s),
+                 u"5Hi-10A 7Hi-10 5Hi-1-1A"_s);
+        QVERIFY(group_sends_.updaterec(1, 6, false, -1, later, now_));
+        const m_gsendsms changed = *group_sends_.getrec(1);
+        QVERIFY(changed.cid == 6 && !changed.imsend && changed.isall == -1 &&
+                changed.sms.isEmpty() && changed.rtime == later && changed.stime == now_);
+        QVERIFY(group_sends_.deleterec(1) && !group_sends_.getrec(1));
     }
 
     void the_queue_takes_what_is_pending_due_and_new() {

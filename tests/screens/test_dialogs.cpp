@@ -210,6 +210,51 @@ private slots:
                  (QStringList{u"139|晚安|1|-1|0|0"_s, u"139|晚安|0|0|1|0"_s}));
     }
 
+    void puts_a_customer_into_a_class() {
+        test_database::execute(u"delete from cusclass"_s);
+        test_database::execute(u"insert into cusclass values (7, '贵宾')"_s);
+        answer<frmGroup>({{u"txtcid"_s, u"0"_s}, {u"txtccID"_s, u"0"_s}}, {});
+        expect_refusal(u"输入的客户分组太长错误，请检查！  "_s);
+        answer<frmGroup>({}, {}, u"cmdref"_s);
+        pick();
+        answer<frmGroup>({{u"txtccID"_s, u"7"_s}, {u"txtCcname"_s, u"贵宾"_s}}, {}, u"Cmdrefcus"_s);
+        pick();
+        answer<frmGroup>(
+            {{u"txtcid"_s, u"1"_s}, {u"txtcusname"_s, u"李四"_s}, {u"txtMobile"_s, u"139"_s}}, {});
+        expect_question(u"成功创建一个客户分组信息，继续创建吗？ "_s, QMessageBox::Yes);
+        answer<frmGroup>({}, {}, u"Cmdrefcus"_s);
+        pick(u"cmdcancel"_s);
+        answer<frmGroup>({{u"txtcid"_s, {}}, {u"txtMobile"_s, {}}}, {});
+        expect_refusal(u"输入错误"_s); // an emptied number is none
+        answer<frmGroup>({}, {}, u"cmdcancel"_s);
+        const frmdatagrid& list = program_.list(u"mnugroup"_s);
+        user::click(list, u"Add"_s);
+        QCOMPARE(column_of(list, 2) + column_of(list, 5), u"贵宾139"_s);
+    }
+
+    void sends_to_a_class_or_to_all() {
+        const QString go_on = u"成功创建一个短信发送信息，继续创建吗？ "_s;
+        answer<frmGsendsms>({{u"txtCid"_s, u"0"_s}}, {{u"txtSms"_s, u" "_s}});
+        expect_refusal(u"输入的短信发送信息错误，必须输入短信，请检查！  "_s);
+        answer<frmGsendsms>({}, {{u"txtCid"_s, {}}, {u"txtSms"_s, u"it's"_s}});
+        expect_refusal(u"输入错误"_s);
+        answer<frmGsendsms>({}, {{u"txtCid"_s, u"7"_s}});
+        user::expect_box(u"不能保存 "_s, u"输入错误，不能保存短信发送信息，请检查！"_s);
+        answer<frmGsendsms>({{u"txtSms"_s, u"it's"_s}}, {{u"txtSms"_s, u"早"_s}}, u"Chkall"_s);
+        answer<frmGsendsms>({}, {});
+        expect_question(go_on, QMessageBox::No);
+        const frmdatagrid& list = program_.list(u"mnuTIMEC"_s);
+        test_database::execute(u"delete from sendsms"_s);
+        user::click(list, u"Add"_s);
+        user::click(list, u"Edit"_s); // does nothing
+        QCOMPARE(column_of(list, 1) + column_of(list, 3), u"√早"_s);
+        QCOMPARE(test_database::rows(u"select mobile, sms, smsfrom, imsend from sendsms"_s),
+                 QStringList{u"139|早|-1|-1"_s});
+        user::expect_box(u"删除成功"_s, u"成功删除短信发送"_s);
+        user::click(list, u"Delete"_s);
+        QCOMPARE(test_database::value(u"select count(*) from sendsms"_s), 1);
+    }
+
     void received_messages_are_only_deleted() {
         test_database::execute(
             u"insert into recvedsms values (1, '139', '好', '2024/01/31 08:00:00', 1)"_s);
@@ -228,6 +273,9 @@ private slots:
         check_order(frmSmsm());
         check_order(frmCustomer());
         check_order(FrmParameter());
+        check_order(frmCusclass());
+        check_order(frmGroup(nothing_to_pick, nothing_to_pick));
+        check_order(frmGsendsms(nothing_to_pick, nothing_to_pick, system_clock));
         check_order(frmSendsms(nothing_to_pick, nothing_to_pick, system_clock));
         check_order(frmLogin());
         check_order(frmFind(columns));

@@ -167,7 +167,9 @@ QString user::text_of(const QWidget& window, const QString& name) {
 void user::click(const QWidget& window, const QString& name) {
     watch();
     if (auto* button = window.findChild<QAbstractButton*>(name)) {
-        QTest::mouseClick(button, Qt::LeftButton);
+        // Near the left, where a check box has its mark.
+        const int middle = button->height() / 2;
+        QTest::mouseClick(button, Qt::LeftButton, {}, {middle, middle});
         return;
     }
     auto& toolbar = find<QToolBar>(window, QStringLiteral("Toolbar1"));

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "data/m_gsendsms.h"
+#include "data/record_access.h"
+
+class Connection;
+
+/// Group sends: table `gsendsms`, read through view `vwgsendsms`, expanded into `sendsms` when
+/// stored.
+class c_gsendsms : public record_access {
+public:
+    void openrs(Recordset& rs) const;
+    /// Opens the customers, not group sends; nothing calls it.
+    void searchsms(Recordset& rs) const;
+    /// Leaves `sms` empty: the text of a stored group send is fixed.
+    [[nodiscard]] std::optional<m_gsendsms> getrec(qint16 gsid) const;
+    /// Stores the group send and one pending message for each customer addressed; all of it is on
+    /// disk when the call returns. After an error half-way what was written stays, and the answer
+    /// is false.
+    [[nodiscard]] bool addrec(const QString& sms, qint16 cid, bool imsend, qint16 isall,
+                              const QDateTime& rtime, const QDateTime& stime) const;
+    /// Leaves the messages made from it as they are.
+    [[nodiscard]] bool updaterec(qint16 gsid, qint16 cid, bool imsend, qint16 isall,
+                                 const QDateTime& rtime, const QDateTime& stime) const;
+    /// Leaves the messages made from it as they are.
+    [[nodiscard]] bool deleterec(qint16 gsid) const;
+
+private:
+    static void expand(Connection& connection, const m_gsendsms& send);
+};

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "data/m_group.h"
+#include "listview/edit_dialog.h"
+
+class QLineEdit;
+class vc_in;
+
+/// Puts a customer into a class; both are picked. The names and the mobile are shown for
+/// orientation.
+class frmGroup : public edit_dialog {
+    Q_OBJECT
+
+public:
+    m_group record;
+
+    /// `classes` and `customers` serve the two picker buttons.
+    frmGroup(vc_in& classes, vc_in& customers, QWidget* parent = nullptr);
+
+private:
+    void pick_class(vc_in& classes);
+    void pick_customer(vc_in& customers);
+
+    QLineEdit* txtCcname;
+    QLineEdit* txtccID;
+    QLineEdit* txtcid;
+    QLineEdit* txtcusname;
+    QLineEdit* txtMobile;
+};

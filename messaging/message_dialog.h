@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "data/fmtdatetime.h"
+#include "listview/edit_dialog.h"
+#include "listview/vc_in.h"
+#include "platform/conversion.h"
+#include "platform/guarded.h"
+
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+/// What the dialogs of single messages and of group sends have in common: the text with its phrase
+/// picker, and the send time. A send time left as shown makes the message immediate.
+template <class Record>
+class message_dialog : public edit_dialog {
+public:
+    Record record;
+
+protected:
+    /// `now` gives the moment that a new message starts from.
+    message_dialog(const QString& caption, clock_source now, QWidget* parent)
+        : edit_dialog(caption, parent), now_(std::move(now)) {}
+
+    /// Adds the rows of the text and the send time.
+    void add_message_rows(vc_in& phrases) {
+        auto* txtSms = add_text(QStringLiteral("txtSms"), QStringLiteral("短信："), record.sms);
+        auto* cmdrefsms =
+            add_picker_button(QStringLiteral("cmdrefsms"), *txtSms, QStringLiteral("选择常用短语"));
+        connect(cmdrefsms, &QPushButton::clicked, this, guarded([&phrases, txtSms] {
+                    const auto picked = phrases.Ref();
+                    if (picked && !picked->picked(QStringLiteral("mid")).isEmpty()) {
+                        txtSms->setPlainText(picked->picked(QStringLiteral("text")));
+                    }
+                }));
+        add_converted(
+            QStringLiteral("txtStime"), QStringLiteral("发送时间："),
+            [this] { return record.stime.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")); },
+            [this](const QString& text) {
+                record.stime = to_datetime(text);
+                record.imsend = record.stime == record.rtime;
+            });
+    }
+
+    void before_load() override {
+        record.rtime = now_();
+        record.stime = record.rtime;
+    }
+
+private:
+    clock_source now_;
+};

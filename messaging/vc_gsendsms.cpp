@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "messaging/vc_gsendsms.h"
+
+#include "platform/widgets/msgbox.h"
+#include "platform/widgets/wait_cursor.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr entity_messages texts{
+    .insert_failed = u"输入错误，不能保存短信发送信息，请检查！",
+    .insert_succeeded = u"成功创建一个短信发送信息，继续创建吗？ ",
+    .delete_succeeded = u"成功删除短信发送",
+    .delete_failed = u"不能删除短信发送",
+};
+
+} // namespace
+
+vc_gsendsms::vc_gsendsms(QMdiArea& windows, vc_in& classes, vc_in& phrases)
+    : entity_screen(windows, u"v_gsendsms", u"gsid", texts), classes_(classes), phrases_(phrases) {}
+
+std::unique_ptr<frmGsendsms> vc_gsendsms::make_dialog() const {
+    return std::make_unique<frmGsendsms>(classes_, phrases_, system_clock,
+                                         QApplication::activeWindow());
+}
+
+bool vc_gsendsms::validate(const m_gsendsms& checked) const {
+    if (checked.sms.trimmed().isEmpty()) {
+        msgbox::critical(u"输入的短信发送信息错误，必须输入短信，请检查！  "_s, u"输入错误"_s);
+        return false;
+    }
+    return true;
+}
+
+bool vc_gsendsms::insert(const m_gsendsms& added) const {
+    const wait_cursor waiting;
+    return records->addrec(added.sms, added.cid, added.imsend, added.isall, added.rtime,
+                           added.stime);
+}
