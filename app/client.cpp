@@ -38,7 +38,8 @@ client::client()
       group_screen_(*windows_, class_screen_, customer_screen_),
       outgoing_screen_(*windows_, customer_screen_, phrase_screen_),
       group_send_screen_(*windows_, class_screen_, phrase_screen_),
-      received_screen_(*windows_) {
+      received_screen_(*windows_),
+      operator_screen_(*windows_) {
     wire(phrase_screen_, phrases_);
     wire(class_screen_, classes_);
     wire(customer_screen_, customers_);
@@ -61,7 +62,8 @@ frmMain& client::open_main_window() {
                                                        .groups = group_screen_,
                                                        .outgoing = outgoing_screen_,
                                                        .group_sends = group_send_screen_,
-                                                       .received = received_screen_},
+                                                       .received = received_screen_,
+                                                       .operators = operator_screen_},
                                   dispatch_engine::collaborators{.parameters = parameters_,
                                                                  .outgoing = outgoing_,
                                                                  .received = received_,

@@ -19,6 +19,7 @@
 #include "messaging/vc_gsendsms.h"
 #include "messaging/vc_recvedsms.h"
 #include "messaging/vc_sendsms.h"
+#include "operators/vc_users.h"
 
 #include <QMdiArea>
 
@@ -58,6 +59,7 @@ private:
     vc_sendsms outgoing_screen_;
     vc_gsendsms group_send_screen_;
     vc_recvedsms received_screen_;
+    vc_users operator_screen_;
 
     std::unique_ptr<frmMain> main_window_;
 };

@@ -8,6 +8,7 @@
 #include "app/window_placement.h"
 #include "listview/vc_in.h"
 #include "operators/rsclsuser.h"
+#include "operators/usermaintain.h"
 #include "platform/guarded.h"
 
 #include <QCloseEvent>
@@ -85,11 +86,13 @@ frmMain::frmMain(std::unique_ptr<QMdiArea> windows, const controllers& opened,
 
 void frmMain::build_system_menu() {
     QMenu& menu = add_menu(*this, u"mnuFile"_s, u"操作管理(&F)"_s);
-    add_item(menu, u"mnuSysUSer"_s, u"操作员管理"_s,
-             with_right(function_id::operator_administration));
+    add_item(
+        menu, u"mnuSysUSer"_s, u"操作员管理"_s,
+        with_right(function_id::operator_administration, [this] { opened_.operators.listall(); }));
     add_item(menu, u"mnuSysRight"_s, u"权限设置"_s,
              with_right(function_id::operator_administration));
-    add_item(menu, u"mnuChgPassword"_s, u"改变我的口令"_s);
+    add_item(menu, u"mnuChgPassword"_s, u"改变我的口令"_s,
+             [] { usermaintain::modifyuser(curuser->userid()); });
     logout_ = add_item(menu, u"logout"_s, u"注销我自己"_s, [this] { log_out_or_in(); });
     add_item(menu, u"mnuSysExit"_s, u"退出(&X)"_s, [this] { close(); });
 }

@@ -26,6 +26,7 @@ public:
         vc_in& outgoing;
         vc_in& group_sends;
         vc_in& received;
+        vc_in& operators;
     };
 
     /// `windows` is the area into which the controllers put their list windows.

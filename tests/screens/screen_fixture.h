@@ -8,8 +8,8 @@
 #include "listview/frmdatagrid.h"
 #include "operators/rsclsuser.h"
 #include "platform/widgets/data_grid.h"
+#include "tests/support/person.h"
 #include "tests/support/test_database.h"
-#include "tests/support/user.h"
 
 #include <QMdiSubWindow>
 
@@ -24,7 +24,7 @@ public:
 
     /// Opens the list window of a menu item.
     [[nodiscard]] frmdatagrid& list(const QString& item) {
-        user::choose(window, item);
+        person::choose(window, item);
         return *qobject_cast<frmdatagrid*>(area.activeSubWindow()->widget());
     }
 
@@ -42,7 +42,7 @@ private:
 };
 
 [[nodiscard]] inline DataGrid& grid_of(const QWidget& window) {
-    return user::find<DataGrid>(window, QStringLiteral("DataGrid1"));
+    return person::find<DataGrid>(window, QStringLiteral("DataGrid1"));
 }
 
 /// What a window's grid shows in a column, its rows joined by blanks.

@@ -6,6 +6,7 @@
 #include "listview/frmFind.h"
 #include "listview/frmSort.h"
 #include "listview/frmref.h"
+#include "operators/frmuser.h"
 #include "tests/screens/screen_fixture.h"
 
 #include <QAbstractButton>
@@ -19,32 +20,32 @@ using box_texts = QList<std::pair<QString, QString>>;
 /// The next dialog must show these texts; types those into it and clicks a button.
 template <class Dialog>
 void answer(const box_texts& shown, const box_texts& typed, const QString& button = u"cmdok"_s) {
-    user::during_modal<Dialog>([=](Dialog& dialog) {
+    person::during_modal<Dialog>([=](Dialog& dialog) {
         for (const auto& [box, text] : shown) {
-            QTest::qCompare(user::text_of(dialog, box), text, qPrintable(box), "expected", __FILE__,
-                            __LINE__);
+            QTest::qCompare(person::text_of(dialog, box), text, qPrintable(box), "expected",
+                            __FILE__, __LINE__);
         }
         for (const auto& [box, text] : typed) {
-            user::type(dialog, box, text);
+            person::type(dialog, box, text);
         }
-        user::click(dialog, button);
+        person::click(dialog, button);
     });
 }
 
 /// The next dialog must be a picker; takes its last row, or cancels.
 void pick(const QString& button = u"cmdok"_s) {
-    user::during_modal<frmref>([=](frmref& picker) {
+    person::during_modal<frmref>([=](frmref& picker) {
         grid_of(picker).selectRow(grid_of(picker).model()->rowCount() - 1);
-        user::click(picker, button);
+        person::click(picker, button);
     });
 }
 
 void expect_refusal(const QString& text, const QString& title = u"输入错误"_s) {
-    user::expect_box(title, text, QMessageBox::Ok, QMessageBox::Critical);
+    person::expect_box(title, text, QMessageBox::Ok, QMessageBox::Critical);
 }
 
 void expect_question(const QString& text, QMessageBox::StandardButton button) {
-    user::expect_box(u"保存成功"_s, text, button, QMessageBox::NoIcon);
+    person::expect_box(u"保存成功"_s, text, button, QMessageBox::NoIcon);
 }
 
 /// Whoever cannot see a dialog or has no mouse needs names, room, and a road from top to bottom.
@@ -84,7 +85,7 @@ private slots:
             u"insert into customer (cid, cname, mobile, memo) values (1, '李四', '139', 'a\r\nb')"_s);
     }
 
-    void cleanup() { QVERIFY(user::all_answered()); }
+    void cleanup() { QVERIFY(person::all_answered()); }
 
     void adds_until_the_operator_stops() {
         const QString go_on = u"成功创建一个短语信息，继续创建吗？ "_s;
@@ -92,48 +93,48 @@ private slots:
         answer<frmSmsm>({{u"txtMID"_s, u"0"_s}}, {{u"txtText"_s, u"节日快乐"_s}});
         expect_question(go_on, QMessageBox::Yes);
         answer<frmSmsm>({{u"txtText"_s, u"节日快乐"_s}}, {{u"txtText"_s, u"it's"_s}});
-        user::expect_box(u"不能保存 "_s, u"输入错误，不能保存短语信息，请检查！"_s);
+        person::expect_box(u"不能保存 "_s, u"输入错误，不能保存短语信息，请检查！"_s);
         answer<frmSmsm>({{u"txtText"_s, u"it's"_s}}, {{u"txtText"_s, longest + u'!'}});
         expect_refusal(u"输入的短语太长错误，请检查！  "_s);
         answer<frmSmsm>({{u"txtText"_s, longest + u'!'}}, {{u"txtText"_s, longest}});
         expect_question(go_on, QMessageBox::Yes);
         answer<frmSmsm>({{u"txtText"_s, longest}}, {}, u"cmdcancel"_s);
         const frmdatagrid& list = program_.list(u"mnuCreTech"_s);
-        user::click(list, u"Add"_s);
+        person::click(list, u"Add"_s);
         QCOMPARE(column_of(list, 1), u"早安 晚安 节日快乐 "_s + longest);
     }
 
     void writes_the_key_of_the_number_box() {
         answer<frmSmsm>({{u"txtMID"_s, u"1"_s}}, {{u"txtText"_s, u"it's"_s}});
-        user::expect_box(u"不成功"_s, u"修改了短语不成功。 "_s);
+        person::expect_box(u"不成功"_s, u"修改了短语不成功。 "_s);
         answer<frmSmsm>({{u"txtText"_s, u"it's"_s}}, {{u"txtMID"_s, u"abc"_s}});
         expect_refusal(u"输入错误"_s);
         answer<frmSmsm>({{u"txtMID"_s, u"abc"_s}}, {{u"txtMID"_s, u"40000"_s}});
         expect_refusal(u"输入错误"_s);
         answer<frmSmsm>({{u"txtMID"_s, u"40000"_s}, {u"txtText"_s, u"it's"_s}},
                         {{u"txtMID"_s, u"2"_s}, {u"txtText"_s, u"新年好"_s}});
-        user::expect_box(u"保存成功"_s, u"成功地修改了短语。 "_s);
+        person::expect_box(u"保存成功"_s, u"成功地修改了短语。 "_s);
         const frmdatagrid& list = program_.list(u"mnuCreTech"_s);
-        user::click(list, u"Edit"_s);
+        person::click(list, u"Edit"_s);
         QCOMPARE(column_of(list, 1), u"早安 新年好"_s);
     }
 
     void edits_and_deletes_only_what_is_there() {
         const frmdatagrid& list = program_.list(u"mnuCreTech"_s);
         test_database::execute(u"delete from smsmodels where mid=1"_s); // by somebody else
-        user::expect_box(u"修改"_s, u"不能修改短语, 记录不存在！"_s);
-        user::click(list, u"Edit"_s);
-        user::expect_box(u"删除成功"_s, u"成功删除短语"_s);
-        user::click(list, u"Delete"_s);
+        person::expect_box(u"修改"_s, u"不能修改短语, 记录不存在！"_s);
+        person::click(list, u"Edit"_s);
+        person::expect_box(u"删除成功"_s, u"成功删除短语"_s);
+        person::click(list, u"Delete"_s);
         QVERIFY(test_database::rows(u"select * from smsmodels"_s).isEmpty());
-        user::expect_box(u"不能删除"_s, u"不能删除短语"_s);
-        user::click(list, u"Delete"_s);
+        person::expect_box(u"不能删除"_s, u"不能删除短语"_s);
+        person::click(list, u"Delete"_s);
         test_database::execute(u"insert into smsmodels values (32768, '太多')"_s);
-        user::click(list, u"refresh"_s);
-        user::expect_box(u"错误"_s, u"修改错误"_s); // the key is no 16-bit number
-        user::click(list, u"Edit"_s);
-        user::expect_box(u"错误"_s, u"删除错误"_s);
-        user::click(list, u"Delete"_s);
+        person::click(list, u"refresh"_s);
+        person::expect_box(u"错误"_s, u"修改错误"_s); // the key is no 16-bit number
+        person::click(list, u"Edit"_s);
+        person::expect_box(u"错误"_s, u"删除错误"_s);
+        person::click(list, u"Delete"_s);
         QCOMPARE(column_of(list, 0), u"32768"_s);
     }
 
@@ -144,15 +145,15 @@ private slots:
         answer<frmCustomer>({}, typed);
         expect_refusal(u"输入的客户信息错误，必须输入手机号码，请检查！  "_s);
         answer<frmCustomer>(typed, {{u"txtMobile"_s, u"abc"_s}});
-        user::expect_box(u"不能保存 "_s, u"输入错误，不能保存客户信息，请检查！"_s);
+        person::expect_box(u"不能保存 "_s, u"输入错误，不能保存客户信息，请检查！"_s);
         typed[0].second = u"abc"_s;
         answer<frmCustomer>(typed, {{u"txtCname"_s, u"张三"_s}});
         expect_question(u"成功创建一个客户信息，继续创建吗？ "_s, QMessageBox::No);
         const frmdatagrid& list = program_.list(u"mnuProject"_s);
-        user::click(list, u"Add"_s);
+        person::click(list, u"Add"_s);
         answer<frmCustomer>({}, {{u"txtMobile"_s, u"138"_s}}); // the first one's remark is left
-        user::expect_box(u"保存成功"_s, u"成功地修改了客户。 "_s);
-        user::click(list, u"Edit"_s);
+        person::expect_box(u"保存成功"_s, u"成功地修改了客户。 "_s);
+        person::click(list, u"Edit"_s);
         QCOMPARE(test_database::rows(u"select cname,mobile,sex,birth,phone,memo from customer"_s),
                  (QStringList{u"李四|138||||a\r\nb"_s, u"张三|abc|男|五月|010|c\nd"_s}));
     }
@@ -165,12 +166,12 @@ private slots:
             last = port;
         }
         answer<FrmParameter>({}, {{u"txtip"_s, {}}, {u"txtport"_s, u"0"_s}});
-        user::expect_box(u"保存成功"_s, u"成功地修改了参数。 "_s);
-        user::choose(program_.window, u"mnuPara"_s);
+        person::expect_box(u"保存成功"_s, u"成功地修改了参数。 "_s);
+        person::choose(program_.window, u"mnuPara"_s);
         QCOMPARE(test_database::rows(u"select * from parameters"_s), QStringList{u"|0"_s});
         test_database::execute(u"delete from parameters"_s);
-        user::expect_box(u"修改"_s, u"不能修改参数, 记录不存在！"_s);
-        user::choose(program_.window, u"mnuPara"_s);
+        person::expect_box(u"修改"_s, u"不能修改参数, 记录不存在！"_s);
+        person::choose(program_.window, u"mnuPara"_s);
     }
 
     void sends_at_once_or_later() {
@@ -187,24 +188,25 @@ private slots:
         pick();
         answer<frmSendsms>({{u"txtCname"_s, u"李四"_s}}, {});
         expect_question(go_on, QMessageBox::Yes);
-        user::during_modal<frmSendsms>([](frmSendsms& dialog) {
+        person::during_modal<frmSendsms>([](frmSendsms& dialog) {
             const QString format = u"yyyy-MM-dd HH:mm:ss"_s;
-            const auto shown = QDateTime::fromString(user::text_of(dialog, u"txtStime"_s), format);
-            user::type(dialog, u"txtStime"_s, u"2024-02-30 08:00:00"_s);
+            const auto shown =
+                QDateTime::fromString(person::text_of(dialog, u"txtStime"_s), format);
+            person::type(dialog, u"txtStime"_s, u"2024-02-30 08:00:00"_s);
             expect_refusal(u"输入错误"_s);
-            user::click(dialog, u"cmdok"_s);
-            user::type(dialog, u"txtStime"_s, shown.addSecs(1).toString(format));
+            person::click(dialog, u"cmdok"_s);
+            person::type(dialog, u"txtStime"_s, shown.addSecs(1).toString(format));
             test_database::execute(u"delete from customer"_s);
             pick();
             expect_refusal(u"No select object"_s, u"Warning"_s);
             pick(u"cmdcancel"_s);
-            user::click(dialog, u"Cmdrefcus"_s);
-            QCOMPARE(user::text_of(dialog, u"txtMobile"_s), u"139"_s);
-            user::type(dialog, u"txtCid"_s, {});
+            person::click(dialog, u"Cmdrefcus"_s);
+            QCOMPARE(person::text_of(dialog, u"txtMobile"_s), u"139"_s);
+            person::type(dialog, u"txtCid"_s, {});
             expect_question(u"成功创建一个短信信息，继续创建吗？ "_s, QMessageBox::No);
-            user::click(dialog, u"cmdok"_s);
+            person::click(dialog, u"cmdok"_s);
         });
-        user::click(program_.list(u"mnusend"_s), u"Add"_s);
+        person::click(program_.list(u"mnusend"_s), u"Add"_s);
         QCOMPARE(test_database::rows(
                      u"select mobile, sms, cid, imsend, stime > rtime, sendisok from sendsms"_s),
                  (QStringList{u"139|晚安|1|-1|0|0"_s, u"139|晚安|0|0|1|0"_s}));
@@ -228,7 +230,7 @@ private slots:
         expect_refusal(u"输入错误"_s); // an emptied number is none
         answer<frmGroup>({}, {}, u"cmdcancel"_s);
         const frmdatagrid& list = program_.list(u"mnugroup"_s);
-        user::click(list, u"Add"_s);
+        person::click(list, u"Add"_s);
         QCOMPARE(column_of(list, 2) + column_of(list, 5), u"贵宾139"_s);
     }
 
@@ -239,19 +241,19 @@ private slots:
         answer<frmGsendsms>({}, {{u"txtCid"_s, {}}, {u"txtSms"_s, u"it's"_s}});
         expect_refusal(u"输入错误"_s);
         answer<frmGsendsms>({}, {{u"txtCid"_s, u"7"_s}});
-        user::expect_box(u"不能保存 "_s, u"输入错误，不能保存短信发送信息，请检查！"_s);
+        person::expect_box(u"不能保存 "_s, u"输入错误，不能保存短信发送信息，请检查！"_s);
         answer<frmGsendsms>({{u"txtSms"_s, u"it's"_s}}, {{u"txtSms"_s, u"早"_s}}, u"Chkall"_s);
         answer<frmGsendsms>({}, {});
         expect_question(go_on, QMessageBox::No);
         const frmdatagrid& list = program_.list(u"mnuTIMEC"_s);
         test_database::execute(u"delete from sendsms"_s);
-        user::click(list, u"Add"_s);
-        user::click(list, u"Edit"_s); // does nothing
+        person::click(list, u"Add"_s);
+        person::click(list, u"Edit"_s); // does nothing
         QCOMPARE(column_of(list, 1) + column_of(list, 3), u"√早"_s);
         QCOMPARE(test_database::rows(u"select mobile, sms, smsfrom, imsend from sendsms"_s),
                  QStringList{u"139|早|-1|-1"_s});
-        user::expect_box(u"删除成功"_s, u"成功删除短信发送"_s);
-        user::click(list, u"Delete"_s);
+        person::expect_box(u"删除成功"_s, u"成功删除短信发送"_s);
+        person::click(list, u"Delete"_s);
         QCOMPARE(test_database::value(u"select count(*) from sendsms"_s), 1);
     }
 
@@ -259,10 +261,10 @@ private slots:
         test_database::execute(
             u"insert into recvedsms values (1, '139', '好', '2024/01/31 08:00:00', 1)"_s);
         const frmdatagrid& list = program_.list(u"mnunewcustomer"_s);
-        user::click(list, u"Add"_s);
-        user::click(list, u"Edit"_s);
-        user::expect_box(u"删除成功"_s, u"成功删除短信"_s);
-        user::click(list, u"Delete"_s);
+        person::click(list, u"Add"_s);
+        person::click(list, u"Edit"_s);
+        person::expect_box(u"删除成功"_s, u"成功删除短信"_s);
+        person::click(list, u"Delete"_s);
         QVERIFY(test_database::rows(u"select * from recvedsms"_s).isEmpty());
     }
 
@@ -278,6 +280,7 @@ private slots:
         check_order(frmGsendsms(nothing_to_pick, nothing_to_pick, system_clock));
         check_order(frmSendsms(nothing_to_pick, nothing_to_pick, system_clock));
         check_order(frmLogin());
+        check_order(frmuser());
         check_order(frmFind(columns));
         check_order(frmSort(columns));
         check_order(frmref(columns, rows));

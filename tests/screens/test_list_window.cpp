@@ -16,9 +16,9 @@ namespace {
 
 /// Confirms a choice in the sort or find dialog; a column of -1 leaves the column open.
 void choose(const QWidget& dialog, int column, int option) {
-    user::find<QComboBox>(dialog, u"ComboColName"_s).setCurrentIndex(column);
-    user::click(dialog, u"Option1_%1"_s.arg(option));
-    user::click(dialog, u"cmdOK"_s);
+    person::find<QComboBox>(dialog, u"ComboColName"_s).setCurrentIndex(column);
+    person::click(dialog, u"Option1_%1"_s.arg(option));
+    person::click(dialog, u"cmdOK"_s);
 }
 
 } // namespace
@@ -40,7 +40,7 @@ private slots:
 
     void cleanup() {
         program_.area.closeAllSubWindows();
-        QVERIFY(user::all_answered());
+        QVERIFY(person::all_answered());
     }
 
     void has_the_buttons_of_its_mode() {
@@ -68,14 +68,14 @@ private slots:
     void finds_in_both_directions() {
         const frmdatagrid& list = open();
         const auto find = [&list](int option, const QString& text, bool found = true) {
-            user::during_modal<frmFind>([=](frmFind& dialog) {
-                user::type(dialog, u"txtV"_s, text);
+            person::during_modal<frmFind>([=](frmFind& dialog) {
+                person::type(dialog, u"txtV"_s, text);
                 choose(dialog, -1, option); // stands for the second column
             });
             if (!found) {
-                user::expect_box(u"Information"_s, u"Cann't find! "_s);
+                person::expect_box(u"Information"_s, u"Cann't find! "_s);
             }
-            user::click(list, u"find"_s);
+            person::click(list, u"find"_s);
             return list.value(u"mid"_s);
         };
         QCOMPARE(find(0, u"A"_s), u"2"_s);
@@ -89,23 +89,23 @@ private slots:
         const frmdatagrid& list = open();
         const frmdatagrid& other = open();
         const QAbstractItemModelTester tester(grid_of(list).model());
-        user::during_modal<frmSort>([](frmSort& dialog) { choose(dialog, 0, 0); });
-        user::click(list, u"sort"_s);
+        person::during_modal<frmSort>([](frmSort& dialog) { choose(dialog, 0, 0); });
+        person::click(list, u"sort"_s);
         QCOMPARE(column_of(list, 0), u"11 10 2 1"_s);
-        user::during_modal<frmSort>([](frmSort& dialog) { choose(dialog, -1, 1); });
-        user::click(list, u"sort"_s);
+        person::during_modal<frmSort>([](frmSort& dialog) { choose(dialog, -1, 1); });
+        person::click(list, u"sort"_s);
         QCOMPARE(column_of(list, 0), u"2 11 1 10"_s);
         grid_of(list).selectRow(2);
         test_database::execute(u"insert into smsmodels values (12, 'Aa')"_s);
-        user::click(list, u"refresh"_s);
+        person::click(list, u"refresh"_s);
         QCOMPARE(column_of(list, 1), u"a A Aa B c"_s);
         QCOMPARE(list.value(u"mid"_s), u"1"_s);
         QCOMPARE(column_of(other, 0), u"1 2 10 11"_s);
 
-        user::press_key(program_.window, Qt::Key_Escape);
-        user::click(list, u"Help"_s);
+        person::press_key(program_.window, Qt::Key_Escape);
+        person::click(list, u"Help"_s);
         QCOMPARE(program_.area.subWindowList().size(), 2);
-        user::click(list, u"Exit"_s);
+        person::click(list, u"Exit"_s);
         QTRY_COMPARE(program_.area.subWindowList().size(), 1);
     }
 
@@ -114,7 +114,7 @@ private slots:
         headers.Add({.key = u"mid"_s, .caption = u"编号"_s});
         frmSort dialog(headers);
         dialog.show();
-        user::expect_box(u"提示"_s, u"请先选择列名！"_s);
+        person::expect_box(u"提示"_s, u"请先选择列名！"_s);
         choose(dialog, -1, 0);
         QVERIFY(dialog.isVisible() && !dialog.confirmed);
         choose(dialog, 0, 0);
@@ -130,7 +130,7 @@ private slots:
             u"update viewitems set Visible=0, CondValue2='x' where ViewNo='v_smsm' and pos=1"_s);
         const frmdatagrid& list = open();
         grid_of(list).setColumnWidth(1, 200);
-        user::click(list, u"Save"_s);
+        person::click(list, u"Save"_s);
         const QString saved = QString::number(200 * 1440 / list.logicalDpiX());
         QCOMPARE(test_database::rows(layout), (QStringList{u"900|x"_s, saved + u'|'}));
         QCOMPARE(grid_of(open()).columnWidth(1), 200);
@@ -138,9 +138,9 @@ private slots:
         test_database::execute(u"delete from viewitems where ViewNo='v_smsm' and pos=2"_s);
         grid_of(list).setColumnHidden(0, false);
         grid_of(list).setColumnWidth(0, 300);
-        user::expect_box(u"系统提示"_s, u"数据库操作失败。\n\nthere is no current row"_s,
-                         QMessageBox::Ok, QMessageBox::Critical);
-        user::click(list, u"Save"_s);
+        person::expect_box(u"系统提示"_s, u"数据库操作失败。\n\nthere is no current row"_s,
+                           QMessageBox::Ok, QMessageBox::Critical);
+        person::click(list, u"Save"_s);
         QCOMPARE(test_database::rows(layout), QStringList{u"900|x"_s});
     }
 };

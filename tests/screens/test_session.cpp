@@ -3,6 +3,7 @@
 
 #include "app/application_title.h"
 #include "app/frmLogin.h"
+#include "operators/frmuser.h"
 #include "platform/settings_store.h"
 #include "tests/screens/screen_fixture.h"
 
@@ -34,7 +35,7 @@ private slots:
     void init() { program_ = std::make_unique<screen_fixture>(); }
 
     void cleanup() {
-        QVERIFY(user::all_answered());
+        QVERIFY(person::all_answered());
         program_.reset();
         releaseuser();
     }
@@ -66,15 +67,15 @@ private slots:
         curuser->logout();
         frmLogin login;
         login.show();
-        user::type(login, u"txtUserName"_s, name);
-        user::type(login, u"txtPassword"_s, typed);
+        person::type(login, u"txtUserName"_s, name);
+        person::type(login, u"txtPassword"_s, typed);
         if (error == u"box"_s) {
-            user::expect_box(u"登录错误"_s, u"用户名称或者口令输入错误，请重新输入！"_s,
-                             QMessageBox::Ok, QMessageBox::NoIcon);
+            person::expect_box(u"登录错误"_s, u"用户名称或者口令输入错误，请重新输入！"_s,
+                               QMessageBox::Ok, QMessageBox::NoIcon);
         } else if (!error.isEmpty()) {
-            user::expect_box(u"系统提示"_s, error, QMessageBox::Ok, QMessageBox::Critical);
+            person::expect_box(u"系统提示"_s, error, QMessageBox::Ok, QMessageBox::Critical);
         }
-        user::click(login, u"cmdOK"_s);
+        person::click(login, u"cmdOK"_s);
         QCOMPARE(login.loginok, error.isEmpty());
         QCOMPARE(login.failed, !error.isEmpty() && error != u"box"_s);
         QCOMPARE(login.isVisible(), error == u"box"_s);
@@ -103,30 +104,76 @@ private slots:
             {with_other_right, u"提示"_s}, {4, {}}, {0, {}}, {-1, u"提示"_s}};
         for (const auto& [userid, title] : titles) {
             curuser->set_userid(userid);
-            user::expect_box(title, u"你没有权限操作这项功能!"_s);
-            user::choose(program_->window, QString::fromLatin1(QTest::currentDataTag()));
-            QVERIFY(user::all_answered() && program_->area.subWindowList().isEmpty());
+            person::expect_box(title, u"你没有权限操作这项功能!"_s);
+            person::choose(program_->window, QString::fromLatin1(QTest::currentDataTag()));
+            QVERIFY(person::all_answered() && program_->area.subWindowList().isEmpty());
         }
     }
 
     void logs_out_and_in_again() {
-        const QAction& item = user::find<QAction>(program_->window, u"logout"_s);
+        const QAction& item = person::find<QAction>(program_->window, u"logout"_s);
         const auto shown = [&] {
-            return item.text() + user::text_of(program_->window, u"Panel2"_s);
+            return item.text() + person::text_of(program_->window, u"Panel2"_s);
         };
         QCOMPARE(shown(), u"注销我自己操作员：valdrine"_s);
-        user::choose(program_->window, u"logout"_s);
+        person::choose(program_->window, u"logout"_s);
         QCOMPARE(shown(), u"注册操作员："_s);
         for (const auto& button : {u"cmdCancel"_s, u"cmdOK"_s}) {
-            user::during_modal<frmLogin>([&](frmLogin& login) { user::click(login, button); });
-            user::choose(program_->window, u"logout"_s);
+            person::during_modal<frmLogin>([&](frmLogin& login) { person::click(login, button); });
+            person::choose(program_->window, u"logout"_s);
             QCOMPARE(shown(),
                      button == u"cmdOK"_s ? u"注消我自己操作员：valdrine"_s : u"注册操作员："_s);
         }
         for (const auto& off : {u"mnusendtoall"_s, u"mnustartsend"_s, u"mnustopsend"_s}) {
-            QVERIFY(!user::find<QAction>(program_->window, off).isEnabled());
+            QVERIFY(!person::find<QAction>(program_->window, off).isEnabled());
         }
-        QVERIFY(!user::find<QMenu>(program_->window, u"mnuOut"_s).menuAction()->isEnabled());
+        QVERIFY(!person::find<QMenu>(program_->window, u"mnuOut"_s).menuAction()->isEnabled());
+    }
+
+    void maintains_operators() {
+        const auto answer = [](const QString& name, const QString& password, const QString& again) {
+            person::during_modal<frmuser>([=](frmuser& dialog) {
+                person::type(dialog, u"txtUserName"_s, name);
+                person::type(dialog, u"txtPassword"_s, password);
+                person::type(dialog, u"txtconpass"_s, again);
+                person::click(dialog, u"cmdok"_s);
+            });
+        };
+        const auto refused = [](const QString& text) {
+            person::expect_box(u"输入错误"_s, text, QMessageBox::Ok, QMessageBox::Critical);
+        };
+        const auto stored = [] {
+            return test_database::rows(u"select username, password from users"_s).join(u' ');
+        };
+        frmdatagrid& list = program_->list(u"mnuSysUSer"_s);
+        answer(u"  "_s, {}, {});
+        refused(u"用户名称输入错误请检查！"_s);
+        answer(u"小王"_s, u"p"_s, u"p "_s);
+        refused(u"用户口令输入错误！ "_s);
+        answer(u"O'Neil"_s, {}, {});
+        person::expect_box(u"不能保存"_s, u"输入错误，操作员不能保存！"_s);
+        answer(u"小王"_s, u" p "_s, u" p "_s);
+        person::expect_box(u"创建成功"_s, u"成功创建一个新的用户，是否继续? "_s, QMessageBox::No,
+                           QMessageBox::NoIcon);
+        person::click(list, u"Add"_s);
+        QCOMPARE(stored(), u"valdrine| 小王|p"_s);
+        QCOMPARE(column_of(list, 1), u"valdrine 小王"_s);
+        QCOMPARE(grid_of(list).model()->columnCount(), 2); // no password
+
+        answer(u"王"_s, u" q "_s, u" q "_s);
+        person::expect_box(u"保存成功"_s, u"成功修改了用户的信息"_s);
+        grid_of(list).selectRow(1);
+        person::click(list, u"Edit"_s);
+        QCOMPARE(stored(), u"valdrine| 王| q "_s);
+        person::expect_box(u"删除成功"_s, u"成功删除操作员，编号为:2"_s);
+        person::click(list, u"Delete"_s);
+        answer(u"valdrine"_s, u"new"_s, u"new"_s);
+        person::expect_box(u"保存成功"_s, u"成功修改了用户的信息"_s);
+        person::choose(program_->window, u"mnuChgPassword"_s);
+        QCOMPARE(stored(), u"valdrine|new"_s);
+        curuser->logout();
+        person::expect_box(u"修改错误"_s, u"不能修改已经存在的用户"_s);
+        person::choose(program_->window, u"mnuChgPassword"_s);
     }
 
     void keeps_its_place() {
@@ -153,7 +200,7 @@ private slots:
         QCOMPARE(setting(u"MainLeft"_s), u"600"_s);
         QCOMPARE(place_of_next(), place(600, 900, 7500, 4500));
         set_setting(u"MainLeft"_s, u"左"_s);
-        user::expect_box(u"系统提示"_s, u"窗口位置的设置不是数字，已恢复为默认值。"_s);
+        person::expect_box(u"系统提示"_s, u"窗口位置的设置不是数字，已恢复为默认值。"_s);
         QCOMPARE(place_of_next(), place(1000, 1000, 6500, 6500));
     }
 
@@ -162,10 +209,10 @@ private slots:
         static_cast<void>(program_->list(u"mnuCreTech"_s));
         const auto windows = program_->area.subWindowList();
         const QSize room = program_->area.viewport()->size();
-        user::choose(program_->window, u"mnuWindowTileHorizontal"_s);
+        person::choose(program_->window, u"mnuWindowTileHorizontal"_s);
         QCOMPARE(windows[0]->size() + QSize(0, windows[1]->height()), room);
         QVERIFY(!windows[0]->geometry().intersects(windows[1]->geometry()));
-        user::choose(program_->window, u"mnuWindowTileVertical"_s);
+        person::choose(program_->window, u"mnuWindowTileVertical"_s);
         QCOMPARE(windows[0]->size() + QSize(windows[1]->width(), 0), room);
         QVERIFY(!windows[0]->geometry().intersects(windows[1]->geometry()));
     }
@@ -174,7 +221,7 @@ private slots:
         const QTemporaryDir folder;
         const auto start = [](const QString& directory, const QString& error) {
             set_setting(u"connection"_s, u"server"_s);
-            user::expect_box(u"系统提示"_s, error, QMessageBox::Ok, QMessageBox::Critical);
+            person::expect_box(u"系统提示"_s, error, QMessageBox::Ok, QMessageBox::Critical);
             QCOMPARE(start_session(directory), std::optional(1));
         };
         start(folder.filePath(u"missing"_s),
@@ -188,7 +235,8 @@ private slots:
             QFile file(folder.filePath(u"sms.old.mdb"_s));
             QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Truncate));
             QVERIFY(file.write(content) == content.size() && file.flush());
-            user::during_modal<frmLogin>([](frmLogin& login) { user::click(login, u"cmdOK"_s); });
+            person::during_modal<frmLogin>(
+                [](frmLogin& login) { person::click(login, u"cmdOK"_s); });
             start(folder.path(), error);
             QVERIFY(file.seek(0) && file.readAll() == content);
             QCOMPARE(setting(u"connection"_s), QString()); // no server name outlives a restart

@@ -5,8 +5,8 @@
 #include "app/frmMain.h"
 #include "listview/frmdatagrid.h"
 #include "platform/widgets/data_grid.h"
+#include "tests/support/person.h"
 #include "tests/support/test_database.h"
-#include "tests/support/user.h"
 #include "tests/tour/guide.h"
 
 #include <QApplication>
@@ -36,14 +36,14 @@ QString stored(const QString& statement) {
 /// Chooses a menu item with the mouse; the open menu may be a step.
 void choose(frmMain& window, const QString& menu, const QString& item, const QString& step = {}) {
     guide::activate(window);
-    auto& popup = user::find<QMenu>(window, menu);
+    auto& popup = person::find<QMenu>(window, menu);
     const QRect title = window.menuBar()->actionGeometry(popup.menuAction());
     QTest::mouseClick(window.menuBar(), Qt::LeftButton, {}, title.center());
     guide::wait_for(u"the menu "_s + menu, [&popup] { return popup.isVisible(); });
     if (!step.isEmpty()) {
         guide::step(step, u"日常工作(&C)"_s, {popup.title()});
     }
-    const QRect line = popup.actionGeometry(&user::find<QAction>(popup, item));
+    const QRect line = popup.actionGeometry(&person::find<QAction>(popup, item));
     QTest::mouseClick(&popup, Qt::LeftButton, {}, line.center());
 }
 
@@ -57,12 +57,12 @@ frmdatagrid& front_list(const frmMain& window) {
 
 void press(frmMain& window, const QString& tool) {
     guide::activate(window);
-    user::click(front_list(window), tool);
+    person::click(front_list(window), tool);
 }
 
 /// The rows of the list in front from `row` on, the columns behind the key up to `last`.
 QString shown(const frmMain& window, int last, int row = 0) {
-    const auto* cells = user::find<DataGrid>(front_list(window), u"DataGrid1"_s).model();
+    const auto* cells = person::find<DataGrid>(front_list(window), u"DataGrid1"_s).model();
     QStringList rows;
     for (; row < cells->rowCount(); ++row) {
         QStringList texts;
@@ -76,7 +76,7 @@ QString shown(const frmMain& window, int last, int row = 0) {
 
 void expect_box(const QString& step, const QString& text,
                 QMessageBox::StandardButton answer = QMessageBox::Ok) {
-    user::during_modal<QMessageBox>([=](QMessageBox& box) {
+    person::during_modal<QMessageBox>([=](QMessageBox& box) {
         guide::step(step, text, {box.windowTitle() + u'|' + box.text()});
         QTest::mouseClick(box.button(answer), Qt::LeftButton);
     });
@@ -85,19 +85,19 @@ void expect_box(const QString& step, const QString& text,
 /// Expects a dialog, fills its boxes and ends it with the key that confirms.
 void expect_dialog(const char* dialog_class, const QString& step, const QString& caption,
                    const QList<std::pair<QString, QString>>& texts = {}) {
-    user::expect_modal(dialog_class, [=](QWidget& dialog) {
+    person::expect_modal(dialog_class, [=](QWidget& dialog) {
         for (const auto& [name, text] : texts) {
             auto* choices = dialog.findChild<QComboBox*>(name);
             if (choices == nullptr) {
-                user::type(dialog, name, text);
+                person::type(dialog, name, text);
             }
             for (int downs = choices ? choices->findText(text) : -1; downs >= 0; --downs) {
                 QTest::keyClick(choices, Qt::Key_Down);
             }
         }
         guide::step(step, caption, {dialog.windowTitle()});
-        user::press_key(dialog, Qt::Key_Return,
-                        dialog.inherits("edit_dialog") ? Qt::ControlModifier : Qt::NoModifier);
+        person::press_key(dialog, Qt::Key_Return,
+                          dialog.inherits("edit_dialog") ? Qt::ControlModifier : Qt::NoModifier);
     });
 }
 
@@ -120,8 +120,8 @@ void run_program(const QString& folder, const std::function<void(frmMain&)>& wor
 QString describe(const frmMain& window) {
     const QString place =
         QString::asprintf("%d,%d %dx%d ", window.x(), window.y(), window.width(), window.height());
-    return place + user::find<QLabel>(window, u"Panel2"_s).text() + u'|' +
-           user::find<QAction>(window, u"logout"_s).text();
+    return place + person::find<QLabel>(window, u"Panel2"_s).text() + u'|' +
+           person::find<QAction>(window, u"logout"_s).text();
 }
 
 const QString greeting = u"尊敬的客户，祝您节日快乐，阖家幸福！"_s;
@@ -180,17 +180,17 @@ void fill_the_lists() {
 }
 
 void write_a_message(frmMain& window) {
-    user::expect_modal("frmSendsms", [](QWidget& dialog) {
+    person::expect_modal("frmSendsms", [](QWidget& dialog) {
         expect_dialog("frmref", u"customer-picker"_s, u"客户资料"_s);
-        user::click(dialog, u"Cmdrefcus"_s);
+        person::click(dialog, u"Cmdrefcus"_s);
         expect_dialog("frmref", u"phrase-picker"_s, u"常用短语"_s);
-        user::click(dialog, u"cmdrefsms"_s);
-        guide::step(
-            u"message"_s, u"13912345678|"_s + greeting,
-            {user::text_of(dialog, u"txtMobile"_s) + u'|' + user::text_of(dialog, u"txtSms"_s)});
+        person::click(dialog, u"cmdrefsms"_s);
+        guide::step(u"message"_s, u"13912345678|"_s + greeting,
+                    {person::text_of(dialog, u"txtMobile"_s) + u'|' +
+                     person::text_of(dialog, u"txtSms"_s)});
         expect_box(u"message-saved"_s, u"保存成功|成功创建一个短信信息，继续创建吗？ "_s,
                    QMessageBox::No);
-        user::click(dialog, u"cmdok"_s);
+        person::click(dialog, u"cmdok"_s);
     });
     press(window, u"Add"_s);
 }
@@ -266,7 +266,7 @@ int main(int argc, char* argv[]) {
     parser.addOption({u"pictures"_s, u"Save the pictures here."_s, u"folder"_s, u"build/tour"_s});
     parser.process(application);
     guide::start(parser.value(u"pictures"_s));
-    user::set_observer(guide::look_at);
+    person::set_observer(guide::look_at);
     const QTemporaryDir folder;
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
     QProcess gateway;

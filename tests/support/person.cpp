@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/user.h"
+#include "tests/support/person.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -22,7 +22,7 @@ constexpr int watchdog_polls = 4000; // against a hang, not a measure of speed
 
 struct expectation {
     QByteArray class_name;
-    user::answer act;
+    person::answer act;
 };
 
 std::deque<expectation> expected;
@@ -112,13 +112,13 @@ void poll() {
 
 } // namespace
 
-void user::expect_modal(const char* class_name, answer act) {
+void person::expect_modal(const char* class_name, answer act) {
     expected.push_back({class_name, std::move(act)});
     watch();
 }
 
-void user::expect_box(const QString& title, const QString& text, QMessageBox::StandardButton answer,
-                      QMessageBox::Icon icon) {
+void person::expect_box(const QString& title, const QString& text,
+                        QMessageBox::StandardButton answer, QMessageBox::Icon icon) {
     during_modal<QMessageBox>([=](QMessageBox& box) {
         const QString shown = box.windowTitle() + u'|' + box.text();
         const bool matches = shown == title + u'|' + text && box.icon() == icon;
@@ -132,17 +132,17 @@ void user::expect_box(const QString& title, const QString& text, QMessageBox::St
     });
 }
 
-bool user::all_answered() {
+bool person::all_answered() {
     const bool all = expected.empty();
     expected.clear();
     return all;
 }
 
-void user::set_observer(std::function<void(QWidget&)> watches) {
+void person::set_observer(std::function<void(QWidget&)> watches) {
     observer = std::move(watches);
 }
 
-void user::type(const QWidget& window, const QString& name, const QString& text) {
+void person::type(const QWidget& window, const QString& name, const QString& text) {
     auto& box = find<QWidget>(window, name);
     box.setFocus();
     if (auto* line = qobject_cast<QLineEdit*>(&box)) {
@@ -156,7 +156,7 @@ void user::type(const QWidget& window, const QString& name, const QString& text)
     QApplication::sendEvent(&box, &typed);
 }
 
-QString user::text_of(const QWidget& window, const QString& name) {
+QString person::text_of(const QWidget& window, const QString& name) {
     const auto& box = find<QWidget>(window, name);
     if (const auto* lines = qobject_cast<const QPlainTextEdit*>(&box)) {
         return lines->toPlainText();
@@ -164,7 +164,7 @@ QString user::text_of(const QWidget& window, const QString& name) {
     return box.property("text").toString();
 }
 
-void user::click(const QWidget& window, const QString& name) {
+void person::click(const QWidget& window, const QString& name) {
     watch();
     if (auto* button = window.findChild<QAbstractButton*>(name)) {
         // Near the left, where a check box has its mark.
@@ -177,13 +177,13 @@ void user::click(const QWidget& window, const QString& name) {
     QTest::mouseClick(button, Qt::LeftButton);
 }
 
-void user::press_key(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+void person::press_key(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers) {
     watch();
     QWidget* focus = window.focusWidget();
     QTest::keyClick(focus == nullptr ? &window : focus, key, modifiers);
 }
 
-void user::choose(const QWidget& window, const QString& name) {
+void person::choose(const QWidget& window, const QString& name) {
     auto& item = find<QAction>(window, name);
     if (!item.isEnabled()) {
         qFatal("the menu item %s is greyed", qPrintable(name));

@@ -12,7 +12,7 @@
 /// What a person does in front of the program: looks for a box by its name, types, clicks, and
 /// answers the modal dialogs as they come up. A name that is not there fails with the names that
 /// are.
-namespace user {
+namespace person {
 
 /// The visible or hidden child of this type and objectName. Ends the test when there is none.
 template <class Widget>
@@ -65,4 +65,4 @@ Widget& find(const QWidget& window, const QString& name) {
            qPrintable(names.join(u' ')));
 }
 
-} // namespace user
+} // namespace person

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "operators/usermaintain.h"
+
+#include "data/literals.h"
+#include "data/nvltrim.h"
+#include "data/strconn.h"
+#include "operators/frmuser.h"
+#include "platform/connection.h"
+#include "platform/recordset.h"
+#include "platform/widgets/msgbox.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void execute(const QString& statement) {
+    Connection connection;
+    connection.ConnectionString = strconn;
+    connection.Open();
+    connection.Execute(statement);
+    connection.Close();
+}
+
+/// Runs what saves an operator and tells when it fails.
+bool save(const std::function<void()>& saves) {
+    try {
+        saves();
+        return true;
+    } catch (const std::exception&) {
+        msgbox::information(u"输入错误，操作员不能保存！"_s, u"不能保存"_s);
+        return false;
+    }
+}
+
+/// The operator's row in the dialog's record; false when there is none.
+bool read_user(frmuser& dialog, qint32 id) {
+    Recordset rs;
+    rs.set_ActiveConnection(strconn);
+    rs.Open(u"SELECT [userid], [username], [password] FROM Users where userid=%1"_s.arg(id));
+    rs.detach();
+    if (rs.Bof() && rs.Eof()) {
+        return false;
+    }
+    dialog.record.userid = rs.Fields(u"userid"_s).toString();
+    dialog.record.username = rs.Fields(u"username"_s).toString();
+    dialog.record.password = rs.Fields(u"password"_s).toString();
+    return true;
+}
+
+} // namespace
+
+bool usermaintain::adduser() {
+    frmuser dialog(QApplication::activeWindow());
+    while (dialog.ask()) {
+        if (checkuser(dialog) && insertuser(dialog) &&
+            !msgbox::yes_no(u"成功创建一个新的用户，是否继续? "_s, u"创建成功"_s)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool usermaintain::modifyuser(qint32 id) {
+    try {
+        frmuser dialog(QApplication::activeWindow());
+        if (!read_user(dialog, id)) {
+            msgbox::information(u"不能修改已经存在的用户"_s, u"修改错误"_s);
+            return false;
+        }
+        while (dialog.ask()) {
+            if (checkuser(dialog) && updateuser(dialog)) {
+                msgbox::information(u"成功修改了用户的信息"_s, u"保存成功"_s);
+                return true;
+            }
+        }
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
+        // An operator that cannot be read is not changed; there is no message for it.
+    }
+    return false;
+}
+
+bool usermaintain::deleteuser(qint32 id) {
+    try {
+        execute(u"delete from users where userid=%1"_s.arg(id));
+    } catch (const std::exception&) {
+        msgbox::information(u"不能删除操作员，编号为:"_s + QString::number(id), u"删除错误"_s);
+        return false;
+    }
+    msgbox::information(u"成功删除操作员，编号为:"_s + QString::number(id), u"删除成功"_s);
+    return true;
+}
+
+bool usermaintain::checkuser(const frmuser& dialog) {
+    if (nvltrim(dialog.record.username).isEmpty()) {
+        msgbox::critical(u"用户名称输入错误请检查！"_s, u"输入错误"_s);
+        return false;
+    }
+    if (dialog.record.password != dialog.record.conpass) {
+        msgbox::critical(u"用户口令输入错误！ "_s, u"输入错误"_s);
+        return false;
+    }
+    return true;
+}
+
+bool usermaintain::insertuser(const frmuser& dialog) {
+    return save([&dialog] {
+        execute(u"INSERT INTO users ( username,password ) values (%1,%2)"_s.arg(
+            literal(dialog.record.username), literal(nvltrim(dialog.record.password))));
+    });
+}
+
+bool usermaintain::updateuser(const frmuser& dialog) {
+    return save([&dialog] {
+        execute(u"update users set username=%1, password =%2 where userid=%3"_s.arg(
+            literal(dialog.record.username), literal(dialog.record.password),
+            dialog.record.userid));
+    });
+}
+
+void usermaintain::Userrs(Recordset& rs) {
+    rs.set_ActiveConnection(strconn);
+    rs.LockType = Recordset::LockTypeEnum::read_only;
+    rs.Open(u"Users"_s);
+    rs.detach();
+}

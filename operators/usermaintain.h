@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QtGlobal>
+
+class Recordset;
+class frmuser;
+
+/// Adding, changing and deleting operators: the rows of table `users`.
+namespace usermaintain {
+
+/// Adds operators until the user of the program stops; true after at least one, false when
+/// cancelled.
+bool adduser();
+/// Changes an operator; true when saved.
+bool modifyuser(qint32 id);
+/// Deletes an operator without asking; the rights rows stay.
+bool deleteuser(qint32 id);
+
+/// Whether what stands in the dialog can be saved; shows its own message otherwise.
+[[nodiscard]] bool checkuser(const frmuser& dialog);
+/// These store what stands in the dialog; false, and a message, when that fails.
+[[nodiscard]] bool insertuser(const frmuser& dialog);
+[[nodiscard]] bool updateuser(const frmuser& dialog);
+
+/// Opens the record set on all operators. Throws DataError.
+void Userrs(Recordset& rs);
+
+} // namespace usermaintain
