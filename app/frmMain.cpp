@@ -7,6 +7,7 @@
 #include "app/frmLogin.h"
 #include "app/window_placement.h"
 #include "listview/vc_in.h"
+#include "operators/frmRights.h"
 #include "operators/rsclsuser.h"
 #include "operators/usermaintain.h"
 #include "platform/guarded.h"
@@ -90,7 +91,7 @@ void frmMain::build_system_menu() {
         menu, u"mnuSysUSer"_s, u"操作员管理"_s,
         with_right(function_id::operator_administration, [this] { opened_.operators.listall(); }));
     add_item(menu, u"mnuSysRight"_s, u"权限设置"_s,
-             with_right(function_id::operator_administration));
+             with_right(function_id::operator_administration, [this] { frmRights(this).exec(); }));
     add_item(menu, u"mnuChgPassword"_s, u"改变我的口令"_s,
              [] { usermaintain::modifyuser(curuser->userid()); });
     logout_ = add_item(menu, u"logout"_s, u"注销我自己"_s, [this] { log_out_or_in(); });

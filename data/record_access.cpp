@@ -3,14 +3,10 @@
 
 #include "data/record_access.h"
 
-#include "platform/connection.h"
+#include "platform/command.h"
 
 void record_access::execute_statement(const QString& connection_string, const QString& statement) {
-    Connection connection;
-    connection.ConnectionString = connection_string;
-    connection.Open();
-    connection.Execute(statement);
-    connection.Close();
+    Command{.ActiveConnection = connection_string, .CommandText = statement}.Execute();
 }
 
 void record_access::open_detached(Recordset& rs, const QString& statement) const {

@@ -5,6 +5,7 @@
 
 #include "data/strconn.h"
 #include "listview/frmFind.h"
+#include "listview/frmSetList.h"
 #include "listview/frmSort.h"
 #include "listview/vc_in.h"
 #include "listview/view_definition.h"
@@ -54,10 +55,11 @@ frmdatagrid::~frmdatagrid() {
 
 void frmdatagrid::press(const QString& key) {
     static const QHash<QString, void (frmdatagrid::*)()> commands{
-        {u"Add"_s, &frmdatagrid::faddnew},      {u"Edit"_s, &frmdatagrid::Fedit},
-        {u"Delete"_s, &frmdatagrid::fdelete},   {u"find"_s, &frmdatagrid::fFind},
-        {u"sort"_s, &frmdatagrid::fSort},       {u"refresh"_s, &frmdatagrid::fRefresh},
-        {u"Save"_s, &frmdatagrid::FsaveLayout}, {u"Exit"_s, &frmdatagrid::close_window},
+        {u"Add"_s, &frmdatagrid::faddnew},       {u"Edit"_s, &frmdatagrid::Fedit},
+        {u"Delete"_s, &frmdatagrid::fdelete},    {u"find"_s, &frmdatagrid::fFind},
+        {u"sort"_s, &frmdatagrid::fSort},        {u"setfield"_s, &frmdatagrid::SetField},
+        {u"refresh"_s, &frmdatagrid::fRefresh},  {u"Save"_s, &frmdatagrid::FsaveLayout},
+        {u"Exit"_s, &frmdatagrid::close_window},
     };
     if (const auto command = commands.value(key)) {
         (this->*command)();
@@ -147,13 +149,29 @@ void frmdatagrid::restore_position(const QVariant& key, qsizetype row) {
     }
 }
 
-void frmdatagrid::FsaveLayout() {
+void frmdatagrid::SetField() {
+    take_widths(); // what was dragged before must not be lost
+    frmSetList editor(headers_, this);
+    editor.exec();
+    if (editor.confirmed) {
+        headers_.sort_by_position();
+        DataGrid1->set_recordset(nullptr);
+        apply_view(headers_, *DataGrid1);
+        DataGrid1->set_recordset(&rows_);
+    }
+}
+
+void frmdatagrid::take_widths() {
     for (qsizetype i = 1; i <= headers_.Count(); ++i) {
         const int column = static_cast<int>(i - 1);
         if (!DataGrid1->isColumnHidden(column)) { // a hidden column keeps the width it had
             headers_.Item(i).Width = to_int16(QString::number(DataGrid1->width_twips(column)));
         }
     }
+}
+
+void frmdatagrid::FsaveLayout() {
+    take_widths();
     save_view(headers_, strconn, view_no_);
 }
 

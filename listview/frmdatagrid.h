@@ -34,6 +34,9 @@ public:
     void fFind();
     void fSort();
     void fRefresh();
+    /// Lets the operator choose which columns are shown and in which order.
+    void SetField();
+    /// Saves widths, order and visibility of the columns.
     void FsaveLayout();
     /// Opens the rows under the view's default condition: an entity's list shows all.
     void fFilter();
@@ -50,6 +53,7 @@ private:
     /// Runs a command of the controller, tells when it fails, and shows the rows anew in any case.
     void run_and_refresh(const std::function<void()>& command, const QString& failure);
     void close_window();
+    void take_widths();
     [[nodiscard]] qint16 current_id() const;
     void restore_position(const QVariant& key, qsizetype row);
 

@@ -26,6 +26,12 @@ void spListHeaders::Remove(qsizetype position) {
     columns_.erase(columns_.begin() + (&Item(position) - columns_.data()));
 }
 
+void spListHeaders::sort_by_position() {
+    std::stable_sort(
+        columns_.begin(), columns_.end(),
+        [](const spListHeader& left, const spListHeader& right) { return left.POS < right.POS; });
+}
+
 qint16 spListHeaders::SUBIndex(const QString& key) const {
     const auto found =
         std::find_if(columns_.begin(), columns_.end(),

@@ -23,6 +23,8 @@ public:
     [[nodiscard]] const spListHeader& Item(qsizetype position) const;
     [[nodiscard]] qsizetype Count() const noexcept;
     void Remove(qsizetype position);
+    /// Puts the columns into the order of their `POS`.
+    void sort_by_position();
     void clear() noexcept { columns_.clear(); }
     /// The position from 1 of the column with exactly this key, or 0.
     [[nodiscard]] qint16 SUBIndex(const QString& key) const;

@@ -7,7 +7,7 @@
 #include "data/nvltrim.h"
 #include "data/strconn.h"
 #include "operators/frmuser.h"
-#include "platform/connection.h"
+#include "platform/command.h"
 #include "platform/recordset.h"
 #include "platform/widgets/msgbox.h"
 
@@ -18,11 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 void execute(const QString& statement) {
-    Connection connection;
-    connection.ConnectionString = strconn;
-    connection.Open();
-    connection.Execute(statement);
-    connection.Close();
+    Command{.ActiveConnection = strconn, .CommandText = statement}.Execute();
 }
 
 /// Runs what saves an operator and tells when it fails.

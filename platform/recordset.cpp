@@ -89,9 +89,7 @@ SqliteDatabase& Recordset::database() {
 }
 
 void Recordset::Open(const QString& source) {
-    if (state_ == StateEnum::open) {
-        raise_cursor(u"the record set is open already"_s);
-    }
+    require_closed();
     const bool whole_table = !source.trimmed().contains(u' ');
     const QString statement = whole_table ? u"select * from [%1]"_s.arg(source.trimmed()) : source;
     table_.clear();
@@ -128,6 +126,14 @@ void Recordset::read_rows(const QString& statement) {
     row_ids_ = std::move(row_ids);
     order_.clear();
     dirty_.clear();
+}
+
+void Recordset::OpenInMemory(const QStringList& fields) {
+    require_closed();
+    table_.clear();
+    store_ = RowStore(fields);
+    state_ = StateEnum::open;
+    position_ = 0;
 }
 
 void Recordset::Close() {
@@ -179,7 +185,7 @@ qsizetype Recordset::position() const {
 
 void Recordset::set_position(qsizetype row) {
     require_open();
-    if (!dirty_.empty() && !table_.isEmpty()) {
+    if (!dirty_.empty()) {
         Update(); // a changed row is stored before it is left
     }
     position_ = qBound<qsizetype>(-1, row, RecordCount());
@@ -212,7 +218,9 @@ QVariant Recordset::Fields(const QString& name) const {
 void Recordset::set_Fields(const QString& name, const QVariant& value) {
     const qsizetype column = require_column(name);
     store_.set_value(current_row(), column, value);
-    dirty_.push_back(column);
+    if (!table_.isEmpty()) {
+        dirty_.push_back(column);
+    }
 }
 
 void Recordset::AddNew() {
@@ -272,6 +280,12 @@ void Recordset::store_changed_row(qsizetype row) {
 
 qsizetype Recordset::store_row(qsizetype row) const {
     return order_.empty() ? row : order_.at(static_cast<size_t>(row));
+}
+
+void Recordset::require_closed() const {
+    if (state_ == StateEnum::open) {
+        raise_cursor(u"the record set is open already"_s);
+    }
 }
 
 void Recordset::require_open() const {

@@ -33,6 +33,8 @@ public:
 
     /// Opens on a statement, or on a whole table given by its name alone.
     void Open(const QString& source);
+    /// Opens an empty set of these fields that belongs to no table; its rows live in memory alone.
+    void OpenInMemory(const QStringList& fields);
     void Close();
     [[nodiscard]] StateEnum State() const;
 
@@ -68,6 +70,7 @@ public:
     [[nodiscard]] qsizetype store_row(qsizetype row) const;
 
 private:
+    void require_closed() const;
     void require_open() const;
     [[nodiscard]] qsizetype current_row() const;
     [[nodiscard]] qsizetype require_column(const QString& name) const;

@@ -6,6 +6,8 @@
 #include "platform/twips.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QMetaMethod>
 #include <QStyledItemDelegate>
 
 #include <limits>
@@ -37,6 +39,8 @@ DataGrid::DataGrid(QWidget* parent) : QTableView(parent) {
     setCornerButtonEnabled(false);
     setHorizontalScrollMode(ScrollPerPixel);
     setWordWrap(true);
+
+    connect(this, &QTableView::doubleClicked, this, &DataGrid::toggled);
 
     const int line = fontMetrics().height();
     verticalHeader()->setDefaultSectionSize(line + line / 2);
@@ -98,9 +102,23 @@ int DataGrid::width_twips(int column) const {
     return twips::from_pixels(columnWidth(column), logicalDpiX());
 }
 
+void DataGrid::keyPressEvent(QKeyEvent* event) {
+    const bool toggles = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+                         event->key() == Qt::Key_Space;
+    if (toggles && row() >= 0 && isSignalConnected(QMetaMethod::fromSignal(&DataGrid::toggled))) {
+        emit toggled();
+        event->accept();
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
 void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
     if (rows_ != nullptr && current.isValid()) {
         rows_->set_position(current.row());
+        if (current.row() != previous.row()) {
+            emit row_changed();
+        }
     }
 }

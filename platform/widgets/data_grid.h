@@ -30,7 +30,14 @@ public:
     [[nodiscard]] QString text(int column) const;
     [[nodiscard]] int width_twips(int column) const;
 
+signals:
+    /// Another row has become the current one.
+    void row_changed();
+    /// A row was double-clicked, or Enter or Space pressed on it.
+    void toggled();
+
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:

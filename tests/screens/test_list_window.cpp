@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "listview/frmFind.h"
+#include "listview/frmSetList.h"
 #include "listview/frmSort.h"
 #include "tests/screens/screen_fixture.h"
 
@@ -121,6 +122,43 @@ private slots:
         QCOMPARE(dialog.result, u"mid DESC"_s);
         choose(dialog, 0, 1);
         QCOMPARE(dialog.result, u"mid ASC "_s);
+    }
+
+    void chooses_columns_and_their_order() {
+        const QString layout =
+            u"select keyword, pos, Visible from viewitems where ViewNo='v_smsm' order by pos"_s;
+        test_database::execute(u"update viewitems set CanSet=0 where keyword='mid'"_s);
+        const frmdatagrid& list = open();
+        const auto set_up = [&list](const QString& end) {
+            person::during_modal<frmSetList>([=](frmSetList& editor) {
+                auto& grid = person::find<DataGrid>(editor, u"MSHFlexGrid1"_s);
+                person::click(editor, u"cmdUP"_s);     // the first row stays
+                QTest::keyClick(&grid, Qt::Key_Space); // and cannot be hidden
+                person::click(editor, u"cmdDown"_s);
+                person::click(editor, u"cmdDown"_s); // nor can the last row go on
+                QCOMPARE(grid.row(), 1);
+                grid.selectRow(0);
+                QTest::keyClick(&grid, Qt::Key_Return);
+                const QAbstractItemModel& rows = *grid.model();
+                QCOMPARE(rows.index(0, 0).data().toString() + rows.index(0, 1).data().toString() +
+                             rows.index(1, 0).data().toString() +
+                             rows.index(1, 1).data().toString(),
+                         u"短语 编号√"_s);
+                person::click(editor, end);
+            });
+            person::click(list, u"setfield"_s);
+        };
+        set_up(u"cmdCancel"_s);
+        QCOMPARE(column_of(list, 1), u"B a c A"_s);
+        set_up(u"cmdOK"_s);
+        QVERIFY(column_of(list, 0) == u"B a c A" && grid_of(list).isColumnHidden(0));
+        QCOMPARE(list.value(u"mid"_s), u"1"_s);
+        QCOMPARE(test_database::rows(layout), (QStringList{u"mid|1|-1"_s, u"text|2|-1"_s}));
+        person::click(list, u"Save"_s);
+        QCOMPARE(test_database::rows(layout), (QStringList{u"text|1|0"_s, u"mid|2|-1"_s}));
+        QVERIFY(grid_of(open()).isColumnHidden(0));
+        test_database::execute(
+            u"update viewitems set pos=3-pos, Visible=-1, CanSet=-1 where ViewNo='v_smsm'"_s);
     }
 
     void keeps_its_layout() {

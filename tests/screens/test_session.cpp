@@ -3,6 +3,7 @@
 
 #include "app/application_title.h"
 #include "app/frmLogin.h"
+#include "operators/frmRights.h"
 #include "operators/frmuser.h"
 #include "platform/settings_store.h"
 #include "tests/screens/screen_fixture.h"
@@ -174,6 +175,45 @@ private slots:
         curuser->logout();
         person::expect_box(u"修改错误"_s, u"不能修改已经存在的用户"_s);
         person::choose(program_->window, u"mnuChgPassword"_s);
+    }
+
+    void grants_and_withdraws_rights() {
+        test_database::execute(u"insert into users (username) values ('小王')"_s);
+        test_database::execute(u"insert into rights (userid, funid) values (2, 2), (2, 77)"_s);
+        const auto rights_of = [](const QString& id) {
+            return test_database::rows(
+                       u"select funid from rights where userid=%1 order by funid"_s.arg(id))
+                .join(u' ');
+        };
+        person::during_modal<frmRights>([&](frmRights& editor) {
+            auto& users = person::find<DataGrid>(editor, u"dataUsers"_s);
+            auto& functions = person::find<DataGrid>(editor, u"dataFuns"_s);
+            const auto marks = [&functions] {
+                const QAbstractItemModel& rows = *functions.model();
+                return rows.index(0, 2).data().toString() + u'|' +
+                       rows.index(1, 2).data().toString();
+            };
+            QCOMPARE(users.model()->columnCount(), 2); // no password
+            QCOMPARE(marks(), u"√|√"_s);
+            users.selectRow(1);
+            QCOMPARE(marks(), u"|√"_s);
+            QTest::keyClick(&functions, Qt::Key_Space); // the first one
+            QCOMPARE(marks(), u"√|√"_s);
+            QCOMPARE(rights_of(u"2"_s), u"1 2 77"_s);
+            functions.selectRow(1);
+            const QPoint place = functions.visualRect(functions.currentIndex()).center();
+            QTest::mouseClick(functions.viewport(), Qt::LeftButton, {}, place);
+            QTest::mouseDClick(functions.viewport(), Qt::LeftButton, {}, place);
+            QCOMPARE(marks(), u"√|"_s);
+            QCOMPARE(rights_of(u"2"_s), u"1 77"_s);
+            users.selectRow(0);
+            QCOMPARE(marks(), u"√|√"_s);
+            person::press_key(editor, Qt::Key_Escape);
+        });
+        person::choose(program_->window, u"mnuSysRight"_s);
+        curuser->set_userid(2);
+        QVERIFY(curuser->CanDo(function_id::operator_administration, true) &&
+                !curuser->CanDo(function_id::daily_work, false));
     }
 
     void keeps_its_place() {

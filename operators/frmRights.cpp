@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "operators/frmRights.h"
+
+#include "data/strconn.h"
+#include "listview/view_definition.h"
+#include "platform/command.h"
+#include "platform/guarded.h"
+#include "platform/widgets/data_grid.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A step of opening; one that fails leaves the window as it is.
+template <class Step>
+void try_step(const Step& step) {
+    try {
+        step();
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
+    }
+}
+
+void shape_grid(DataGrid& grid, const QString& view_no) {
+    spListHeaders headers;
+    load_view(headers, strconn, view_no);
+    apply_view(headers, grid);
+}
+
+bool on_row(const Recordset& rs) {
+    return rs.State() == Recordset::StateEnum::open && !rs.Bof() && !rs.Eof();
+}
+
+void execute(const QString& statement) {
+    Command{.ActiveConnection = strconn, .CommandText = statement}.Execute();
+}
+
+DataGrid* add_grid(QGridLayout& layout, int column, const QString& name, const QString& caption) {
+    auto* label = new QLabel(caption);
+    label->setObjectName(u"Label1"_s);
+    layout.addWidget(label, 0, column);
+    auto* grid = new DataGrid;
+    grid->setObjectName(name);
+    grid->setAccessibleName(caption);
+    label->setBuddy(grid);
+    layout.addWidget(grid, 1, column);
+    return grid;
+}
+
+} // namespace
+
+frmRights::frmRights(QWidget* parent) : QDialog(parent) {
+    setWindowTitle(u"操作员权限管理"_s);
+    auto* layout = new QGridLayout(this);
+    dataUsers = add_grid(*layout, 0, u"dataUsers"_s, u"操作员列表："_s);
+    dataFuns = add_grid(*layout, 1, u"dataFuns"_s, u"设置操作员的权限(双击鼠标选择)："_s);
+    resize(fontMetrics().averageCharWidth() * 100, fontMetrics().height() * 26);
+
+    try_step([this] { read_users(); });
+    try_step([this] { read_functions(); });
+    try_step([this] { shape_grid(*dataUsers, u"vusers"_s); });
+    try_step([this] { shape_grid(*dataFuns, u"vrights"_s); });
+    dataUsers->set_recordset(&users_);
+    dataFuns->set_recordset(&functions_);
+    try_step([this] { show_rights_of_current_user(); });
+    connect(dataUsers, &DataGrid::row_changed, this,
+            guarded([this] { show_rights_of_current_user(); }));
+    connect(dataFuns, &DataGrid::toggled, this, guarded([this] { toggle(); }));
+}
+
+frmRights::~frmRights() {
+    dataUsers->set_recordset(nullptr);
+    dataFuns->set_recordset(nullptr);
+}
+
+void frmRights::read_users() {
+    users_.set_ActiveConnection(strconn);
+    users_.Open(u"users"_s);
+    users_.detach();
+}
+
+void frmRights::read_functions() {
+    functions_.OpenInMemory({u"funid"_s, u"funName"_s, u"Selected"_s});
+    Recordset stored;
+    stored.set_ActiveConnection(strconn);
+    stored.Open(u"Functions"_s);
+    for (; !stored.Eof(); stored.MoveNext()) {
+        functions_.AddNew();
+        functions_.set_Fields(u"funid"_s, stored.Fields(u"FunId"_s));
+        functions_.set_Fields(u"funName"_s, stored.Fields(u"funName"_s));
+        functions_.set_Fields(u"Selected"_s, 0);
+    }
+    functions_.set_position(0);
+}
+
+void frmRights::ResetFuns() {
+    for (qsizetype row = 0; row < functions_.RecordCount(); ++row) {
+        functions_.set_position(row);
+        functions_.set_Fields(u"Selected"_s, 0);
+    }
+}
+
+void frmRights::GetOneRights(qint32 userid) {
+    if (functions_.RecordCount() == 0) {
+        return;
+    }
+    const qsizetype current = functions_.position();
+    ResetFuns();
+    Recordset rights;
+    rights.set_ActiveConnection(strconn);
+    rights.Open(u"select * from rights where userid=%1"_s.arg(userid));
+    for (; !rights.Eof(); rights.MoveNext()) {
+        functions_.MoveFirst();
+        functions_.Find(u"funid=%1"_s.arg(rights.Fields(u"funid"_s).toInt()));
+        if (!functions_.Eof()) {
+            functions_.set_Fields(u"Selected"_s, -1);
+        }
+    }
+    functions_.set_position(current);
+    dataFuns->viewport()->update();
+}
+
+void frmRights::show_rights_of_current_user() {
+    if (on_row(users_)) {
+        GetOneRights(users_.Fields(u"userid"_s).toInt());
+    }
+}
+
+void frmRights::toggle() {
+    if (!on_row(functions_) || !on_row(users_)) {
+        return;
+    }
+    const qint32 userid = users_.Fields(u"userid"_s).toInt();
+    const qint32 funid = functions_.Fields(u"funid"_s).toInt();
+    const bool selected = functions_.Fields(u"Selected"_s).toInt() == 0;
+    // The mark follows the table: it stays as it was when the write fails.
+    if (selected) {
+        ADDRight(userid, funid);
+    } else {
+        DeleteRight(userid, funid);
+    }
+    functions_.set_Fields(u"Selected"_s, selected ? -1 : 0);
+    dataFuns->viewport()->update();
+}
+
+void frmRights::ADDRight(qint32 userid, qint32 funid) {
+    execute(u"insert into rights (userid,funid) values (%1,%2)"_s.arg(userid).arg(funid));
+}
+
+void frmRights::DeleteRight(qint32 userid, qint32 funid) {
+    execute(u"delete  from rights where userid=%1 and funid=%2"_s.arg(userid).arg(funid));
+}
