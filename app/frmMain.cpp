@@ -4,13 +4,16 @@
 #include "app/frmMain.h"
 
 #include "app/application_title.h"
+#include "app/frmAbout.h"
 #include "app/frmLogin.h"
+#include "app/frmserver.h"
 #include "app/window_placement.h"
 #include "listview/vc_in.h"
 #include "operators/frmRights.h"
 #include "operators/rsclsuser.h"
 #include "operators/usermaintain.h"
 #include "platform/guarded.h"
+#include "platform/widgets/msgbox.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -142,7 +145,19 @@ void frmMain::build_help_menu() {
     QMenu& menu = add_menu(*this, u"mnuHelp"_s, u"帮助(&H)"_s);
     add_item(menu, u"mnuHelpContents"_s, u"帮助内容"_s);
     menu.addSeparator()->setObjectName(u"mnuHelpBar0"_s);
-    add_item(menu, u"mnuHelpAbout"_s, u"关于"_s);
+    add_item(menu, u"mnuHelpAbout"_s, u"关于"_s,
+             [this] { frmAbout(*system_registry(), this).exec(); });
+}
+
+void frmMain::setserver() {
+    if (!curuser->CanDo(function_id::operator_administration, true)) {
+        return;
+    }
+    frmserver dialog(this);
+    dialog.exec();
+    if (dialog.serverok) {
+        msgbox::information(u"服务器已经设置好，下次进入系统才可生效！"_s, u"系统提示"_s);
+    }
 }
 
 void frmMain::show_operator() {

@@ -40,6 +40,9 @@ public:
     void sendend(const bool& ok) { engine_.sendend(ok); }
     void sendsms() { engine_.sendsms(); }
 
+    /// Asks for the database server's name; no menu leads here.
+    void setserver();
+
     [[nodiscard]] dispatch_engine& engine() { return engine_; }
 
 protected:

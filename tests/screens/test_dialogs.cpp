@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/frmLogin.h"
+#include "app/frmserver.h"
 #include "directory/FrmParameter.h"
 #include "listview/frmFind.h"
 #include "listview/frmSort.h"
@@ -280,6 +281,7 @@ private slots:
         check_order(frmGsendsms(nothing_to_pick, nothing_to_pick, system_clock));
         check_order(frmSendsms(nothing_to_pick, nothing_to_pick, system_clock));
         check_order(frmLogin());
+        check_order(frmserver());
         check_order(frmuser());
         check_order(frmFind(columns));
         check_order(frmSort(columns));

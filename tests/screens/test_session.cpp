@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/application_title.h"
+#include "app/frmAbout.h"
 #include "app/frmLogin.h"
+#include "app/frmserver.h"
 #include "operators/frmRights.h"
 #include "operators/frmuser.h"
 #include "platform/settings_store.h"
@@ -11,6 +13,7 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QMenu>
+#include <QTcpServer>
 
 using namespace Qt::StringLiterals;
 
@@ -214,6 +217,59 @@ private slots:
         curuser->set_userid(2);
         QVERIFY(curuser->CanDo(function_id::operator_administration, true) &&
                 !curuser->CanDo(function_id::daily_work, false));
+    }
+
+    void keeps_the_name_of_a_server_that_answers() {
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        const QString name = u"127.0.0.1,%1"_s.arg(server.serverPort());
+        person::during_modal<frmserver>([&](frmserver& dialog) {
+            for (const auto& wrong : {u"127.0.0.1,1"_s, u""_s, u"127.0.0.1,x"_s}) {
+                person::type(dialog, u"Text1"_s, wrong);
+                person::expect_box(u"系统提示"_s,
+                                   u"服务器连接不成功，请查看服务器名是否输入错误！"_s);
+                person::click(dialog, u"cmdOK"_s);
+                QVERIFY(dialog.isVisible());
+            }
+            QCOMPARE(setting(u"connection"_s), u"none"_s);
+            person::type(dialog, u"Text1"_s, name);
+            person::expect_box(u"系统提示"_s, u"服务器已经设置好，下次进入系统才可生效！"_s);
+            person::click(dialog, u"cmdOK"_s);
+        });
+        program_->window.setserver();
+        QCOMPARE(setting(u"connection"_s), name);
+    }
+
+    void tells_about_itself() {
+        class fake_registry : public Registry {
+        public:
+            [[nodiscard]] std::optional<value> query(RootEnum /*root*/, const QString& key,
+                                                     const QString& name) const override {
+                if (key != u"key"_s) {
+                    return std::nullopt;
+                }
+                return name == u"text"_s ? value{TypeEnum::string, QByteArray("abc\0def", 8)}
+                                         : value{TypeEnum::dword, QByteArray("\x78\x56\x34\x12")};
+            }
+        };
+        const auto root = Registry::RootEnum::local_machine;
+        const fake_registry registry;
+        frmAbout about(registry);
+        QString result = u"old"_s;
+        QVERIFY(!about.GetKeyValue(root, u"none"_s, u"text"_s, result) && result.isEmpty());
+        QVERIFY(about.GetKeyValue(root, u"key"_s, u"text"_s, result));
+        QCOMPARE(result, u"abc"_s);
+        QVERIFY(about.GetKeyValue(root, u"key"_s, u"number"_s, result));
+        QCOMPARE(result, QString::number(0x12345678));
+        person::during_modal<frmAbout>([](frmAbout& dialog) {
+            person::expect_box(application_title(),
+                               u"System Information Is Unavailable At This Time"_s, QMessageBox::Ok,
+                               QMessageBox::NoIcon);
+            person::click(dialog, u"cmdSysInfo"_s);
+            QCOMPARE(person::text_of(dialog, u"lblVersion"_s), u"版本：1.0.1 belta2"_s);
+            person::press_key(dialog, Qt::Key_Return);
+        });
+        person::choose(program_->window, u"mnuHelpAbout"_s);
     }
 
     void keeps_its_place() {
