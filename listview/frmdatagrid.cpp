@@ -3,10 +3,12 @@
 
 #include "listview/frmdatagrid.h"
 
+#include "data/fmtdatetime.h"
 #include "data/strconn.h"
 #include "listview/frmFind.h"
 #include "listview/frmSetList.h"
 #include "listview/frmSort.h"
+#include "listview/frmconduser.h"
 #include "listview/vc_in.h"
 #include "listview/view_definition.h"
 #include "platform/conversion.h"
@@ -15,6 +17,7 @@
 #include "platform/widgets/msgbox.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QToolBar>
@@ -39,6 +42,7 @@ frmdatagrid::frmdatagrid(vc_in& controller, QString view_no, QWidget* parent)
     setFocusProxy(DataGrid1);
 
     updateField();
+    SetDefault();
     fFilter();
     setWindowTitle(headers_.vName);
     build_toolbar(imlToolbarIcons, *Toolbar1, headers_.ReadOnly, headers_.other);
@@ -175,7 +179,20 @@ void frmdatagrid::FsaveLayout() {
     save_view(headers_, strconn, view_no_);
 }
 
+void frmdatagrid::SetDefault() {
+    const QDate today = system_clock().date();
+    condition_ = {.userid = 0, .start = today.startOfDay(), .end = today.endOfDay()};
+}
+
 void frmdatagrid::fFilter() {
+    if (view_no_ == operation_log_view) {
+        frmconduser dialog(condition_, controller_, QApplication::activeWindow());
+        dialog.exec();
+        if (dialog.confirmed) {
+            condition_ = dialog.condition;
+        }
+        store_condition(headers_, condition_);
+    }
     ResetCond(headers_, rows_);
 }
 
@@ -185,8 +202,12 @@ void frmdatagrid::updateField() {
     apply_view(headers_, *DataGrid1);
 }
 
-bool frmdatagrid::ResetCond(const spListHeaders& /*headers*/, Recordset& rows) {
-    controller_.openrs(rows);
+bool frmdatagrid::ResetCond(const spListHeaders& headers, Recordset& rows) {
+    if (view_no_ == operation_log_view) {
+        open_operation_log(headers, rows);
+    } else {
+        controller_.openrs(rows);
+    }
     return true;
 }
 

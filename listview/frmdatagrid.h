@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "listview/operation_log.h"
 #include "listview/spListHeaders.h"
 #include "listview/toolbar_builder.h"
 #include "platform/recordset.h"
@@ -38,7 +39,9 @@ public:
     void SetField();
     /// Saves widths, order and visibility of the columns.
     void FsaveLayout();
-    /// Opens the rows under the view's default condition: an entity's list shows all.
+    /// The view's default condition: all rows of an entity, today's of the operation log.
+    void SetDefault();
+    /// Opens the rows under the view's condition; the operation log asks for it first.
     void fFilter();
     /// Loads the view definition anew and applies it to the grid.
     void updateField();
@@ -62,6 +65,7 @@ private:
     spListHeaders headers_;
     Recordset rows_;
     QString sort_;
+    operation_condition condition_; ///< of the operation log alone
     image_list imlToolbarIcons;
     QToolBar* Toolbar1;
     DataGrid* DataGrid1;

@@ -36,7 +36,7 @@ constexpr auto bitmaps = std::to_array<bitmap>({
     {u"Exit", 1118},
 });
 
-enum class present { in_all, in_all_and_modify, always };
+enum class present { in_all, in_all_and_modify, with_filter, always };
 
 struct button {
     QStringView key; ///< empty for a separator
@@ -50,6 +50,7 @@ constexpr auto buttons = std::to_array<button>({
     {u"Edit", u"修改", present::in_all_and_modify, u"F2"},
     {u"Delete", u"删除", present::in_all},
     {{}, {}, present::in_all_and_modify},
+    {u"filter", u"过滤", present::with_filter},
     {u"find", u"查找", present::always, u"Ctrl+F"},
     {u"sort", u"排序"},
     {u"setfield", u"设置"},
@@ -60,12 +61,14 @@ constexpr auto buttons = std::to_array<button>({
     {u"Exit", u"退出"},
 });
 
-bool is_present(present where, const QString& mode) {
+bool is_present(present where, const QString& mode, bool with_filter) {
     switch (where) {
     case present::in_all:
         return mode == u"all";
     case present::in_all_and_modify:
         return mode == u"all" || mode == u"modify";
+    case present::with_filter:
+        return with_filter;
     case present::always:
         break;
     }
@@ -86,14 +89,15 @@ void add_button(QToolBar& toolbar, const button& shown, const QIcon& icon) {
 
 } // namespace
 
-void build_toolbar(image_list& images, QToolBar& toolbar, bool /*read_only*/, const QString& mode) {
+void build_toolbar(image_list& images, QToolBar& toolbar, bool /*read_only*/, const QString& mode,
+                   bool with_filter) {
     images.clear();
     for (const bitmap& picture : bitmaps) {
         images.insert(picture.key.toString(), QIcon(u":/bitmaps/%1.svg"_s.arg(picture.resource)));
     }
     qDeleteAll(toolbar.actions());
     for (const button& shown : buttons) {
-        if (!is_present(shown.where, mode)) {
+        if (!is_present(shown.where, mode, with_filter)) {
             continue;
         }
         if (shown.key.isEmpty()) {

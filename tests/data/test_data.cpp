@@ -9,6 +9,7 @@
 #include "data/c_recvedsms.h"
 #include "data/c_sendsms.h"
 #include "data/c_smsm.h"
+#include "data/constvalues.h"
 #include "data/schema.h"
 #include "data/strconn.h"
 #include "platform/connection_pool.h"
@@ -215,6 +216,19 @@ private slots:
         QVERIFY(changed.cid == 6 && !changed.imsend && changed.isall == -1 &&
                 changed.sms.isEmpty() && changed.rtime == later && changed.stime == now_);
         QVERIFY(group_sends_.deleterec(1) && !group_sends_.getrec(1));
+    }
+
+    void a_group_of_constants_is_loaded() {
+        run(u"insert into CONSTS (no, value, dispvalue) values ('sex', '0', '男'), ('SEX', '1', '女'), ('x', '2', '?'), ('sex', '0', '无')"_s);
+        constvalues sexes;
+        sexes.load(strconn, u"sex"_s);
+        QCOMPARE(sexes.Count(), 3);
+        QVERIFY(sexes.Item(2)->dispvalue == u"女" && sexes.Item(u"0"_s)->dispvalue == u"男");
+        QVERIFY(sexes.Item(u"2"_s) == nullptr && sexes.Item(0) == nullptr &&
+                sexes.Item(4) == nullptr);
+        QCOMPARE(error_of([&] { sexes.Add({}, {}, u"1"_s); }), Kind::duplicate_key);
+        sexes.Remove(1);
+        QVERIFY(sexes.Item(1)->dispvalue == u"女" && sexes.Item(u"0"_s) == nullptr);
     }
 
     void the_queue_takes_what_is_pending_due_and_new() {

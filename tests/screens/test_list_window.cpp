@@ -4,6 +4,9 @@
 #include "listview/frmFind.h"
 #include "listview/frmSetList.h"
 #include "listview/frmSort.h"
+#include "listview/frmconduser.h"
+#include "listview/frmref.h"
+#include "operators/vc_users.h"
 #include "tests/screens/screen_fixture.h"
 
 #include <QAbstractItemModelTester>
@@ -46,13 +49,15 @@ private slots:
 
     void has_the_buttons_of_its_mode() {
         const QMap<QString, QString> first{{u"all"_s, u"Add增加 Edit修改 Delete删除 | "_s},
+                                           {u"modify filter"_s, u"Edit修改 | filter过滤 "_s},
                                            {u"modify"_s, u"Edit修改 | "_s},
                                            {u"ALL"_s, QString()}};
         QWidget window;
         QToolBar toolbar(&window);
         image_list images;
         for (auto mode = first.begin(); mode != first.end(); ++mode) {
-            build_toolbar(images, toolbar, true, mode.key());
+            build_toolbar(images, toolbar, true, mode.key().section(u' ', 0, 0),
+                          mode.key().endsWith(u"filter"));
             QStringList shown;
             for (const QAction* button : toolbar.actions()) {
                 QVERIFY(button->isSeparator() || !button->icon().isNull());
@@ -122,6 +127,37 @@ private slots:
         QCOMPARE(dialog.result, u"mid DESC"_s);
         choose(dialog, 0, 1);
         QCOMPARE(dialog.result, u"mid ASC "_s);
+    }
+
+    void shows_the_operation_log_that_was_asked_for() {
+        test_database::execute(
+            u"insert into operatelog (optime, userid, operation) values ('2024/01/31 08:00:00', 1, 'a'), ('2024/01/31 09:00:00', 7, 'b'), ('2024/01/31 10:00:00', 1, 'c'), ('2024/01/31 10:00:01', 1, 'd')"_s);
+        vc_users operators(program_.area);
+        const auto shown = [&](const QString& user, const QString& button) {
+            person::during_modal<frmconduser>([=](frmconduser& dialog) {
+                person::type(dialog, u"txtsdate"_s, u"2024-02-30"_s);
+                person::expect_box(u"系统提示"_s,
+                                   u"数据的格式或者范围不正确。\n\n\"2024-02-30\" is not a date"_s,
+                                   QMessageBox::Ok, QMessageBox::Critical);
+                person::click(dialog, u"cmdOK"_s);
+                person::type(dialog, u"txtsdate"_s, u"2024-01-31 08:00:00"_s);
+                person::type(dialog, u"txtedate"_s, u"2024-01-31 10:00:00"_s);
+                if (user == u"picked") {
+                    person::during_modal<frmref>(
+                        [](frmref& picker) { person::click(picker, u"cmdok"_s); });
+                    person::click(dialog, u"cmdref"_s);
+                } else {
+                    person::type(dialog, u"txtuserid"_s, user);
+                }
+                person::click(dialog, button);
+            });
+            open_list_window(program_.area, operators, u"operateview"_s);
+            return column_of(*program_.area.activeSubWindow()->widget(), 3);
+        };
+        QCOMPARE(shown({}, u"cmdOK"_s), u"a b c"_s);
+        QCOMPARE(shown(u"7"_s, u"cmdOK"_s), u"b"_s);
+        QCOMPARE(shown(u"picked"_s, u"cmdOK"_s), u"a c"_s);
+        QCOMPARE(shown({}, u"cmdCancel"_s), QString()); // nothing happened today
     }
 
     void chooses_columns_and_their_order() {

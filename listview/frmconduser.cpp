@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "listview/frmconduser.h"
+
+#include "listview/dialog_buttons.h"
+#include "listview/vc_in.h"
+#include "platform/conversion.h"
+#include "platform/guarded.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QLineEdit* add_box(QFormLayout& form, const QString& name, const QString& caption,
+                   QWidget* behind = nullptr) {
+    auto* box = new QLineEdit;
+    box->setObjectName(name);
+    box->setAccessibleName(caption);
+    auto* label = new QLabel(caption);
+    label->setObjectName(u"lblFieldLabel"_s);
+    label->setBuddy(box);
+    auto* row = new QHBoxLayout;
+    row->addWidget(box);
+    if (behind != nullptr) {
+        row->addWidget(behind);
+    }
+    form.addRow(label, row);
+    return box;
+}
+
+} // namespace
+
+frmconduser::frmconduser(const operation_condition& shown, vc_in& operators, QWidget* parent)
+    : QDialog(parent), condition(shown) {
+    setWindowTitle(u"筛选条件"_s);
+    auto* layout = new QVBoxLayout(this);
+    auto* form = new QFormLayout;
+    form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    layout->addLayout(form);
+    auto* cmdref = new QPushButton(u"…"_s);
+    cmdref->setObjectName(u"cmdref"_s);
+    cmdref->setToolTip(u"选择操作员"_s);
+    cmdref->setAccessibleName(cmdref->toolTip());
+    cmdref->setAutoDefault(false);
+    txtuserid = add_box(*form, u"txtuserid"_s, u"操作员号："_s, cmdref);
+    txtsdate = add_box(*form, u"txtsdate"_s, u"开始日期："_s);
+    txtedate = add_box(*form, u"txtedate"_s, u"截止日期："_s);
+    const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
+    buttons.ok->setObjectName(u"cmdOK"_s);
+    buttons.cancel->setObjectName(u"cmdCancel"_s);
+
+    filltext();
+    connect(cmdref, &QPushButton::clicked, this,
+            guarded([this, &operators] { pick_operator(operators); }));
+    connect(buttons.ok, &QPushButton::clicked, this, guarded([this] {
+                fillcond(); // a box that cannot be read keeps the dialog open
+                confirmed = true;
+                accept();
+            }));
+    setMinimumWidth(fontMetrics().averageCharWidth() * 55);
+}
+
+void frmconduser::pick_operator(vc_in& operators) {
+    txtuserid->clear();
+    if (const auto picked = operators.Ref()) {
+        txtuserid->setText(picked->picked(u"userid"_s));
+    }
+}
+
+void frmconduser::filltext() {
+    txtsdate->setText(condition.start.toString(u"yyyy-MM-dd HH:mm:ss"_s));
+    txtedate->setText(condition.end.toString(u"yyyy-MM-dd HH:mm:ss"_s));
+}
+
+void frmconduser::fillcond() {
+    condition.start = to_datetime(txtsdate->text());
+    condition.end = to_datetime(txtedate->text());
+    if (txtuserid->text().isEmpty()) {
+        condition.userid = 0;
+    } else {
+        static_cast<void>(to_int16(txtuserid->text()));
+        condition.userid = txtuserid->text();
+    }
+}
