@@ -38,8 +38,8 @@ QLineEdit* add_box(QFormLayout& form, const QString& name, const QString& captio
 
 } // namespace
 
-frmconduser::frmconduser(const operation_condition& shown, vc_in& operators, QWidget* parent)
-    : QDialog(parent), condition(shown) {
+frmconduser::frmconduser(operation_condition shown, vc_in& operators, QWidget* parent)
+    : QDialog(parent), condition(std::move(shown)) {
     setWindowTitle(u"筛选条件"_s);
     auto* layout = new QVBoxLayout(this);
     auto* form = new QFormLayout;

@@ -19,7 +19,7 @@ public:
     operation_condition condition;
 
     /// Shows `shown`; `operators` serves the picker button.
-    frmconduser(const operation_condition& shown, vc_in& operators, QWidget* parent = nullptr);
+    frmconduser(operation_condition shown, vc_in& operators, QWidget* parent = nullptr);
 
 private:
     void pick_operator(vc_in& operators);

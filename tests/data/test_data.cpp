@@ -195,7 +195,7 @@ private slots:
         run(u"insert into cusclass values (5, 'A')"_s);
         run(u"insert into cgroup (cid, ccid) values (1, 5), (4, 5), (4, 5), (9, 5), (2, 6)"_s);
         const auto messages = [] {
-            const QString made = rows(
+            QString made = rows(
                 u"select mobile || cid || sms || sendisok || smsfrom || imsend || rtime || stime from sendsms order by smsid"_s);
             run(u"delete from sendsms"_s);
             return made;
