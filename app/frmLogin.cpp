@@ -7,13 +7,13 @@
 #include "data/literals.h"
 #include "data/strconn.h"
 #include "listview/dialog_buttons.h"
+#include "listview/labelled_box.h"
 #include "operators/rsclsuser.h"
 #include "platform/conversion.h"
 #include "platform/widgets/msgbox.h"
 
 #include <QDate>
 #include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -21,18 +21,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QLineEdit* add_box(QFormLayout& form, const QString& label_name, const QString& label,
-                   const QString& name, const QString& text) {
-    auto* box = new QLineEdit(text);
-    box->setObjectName(name);
-    box->setAccessibleName(label);
-    auto* caption = new QLabel(label);
-    caption->setObjectName(label_name);
-    caption->setBuddy(box);
-    form.addRow(caption, box);
-    return box;
-}
 
 QString login_query(const QString& name, const QString& password) {
     if (password.trimmed().isEmpty()) {
@@ -51,11 +39,12 @@ frmLogin::frmLogin(QWidget* parent) : QDialog(parent) {
     auto* form = new QFormLayout;
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     layout->addLayout(form);
-    txtUserName = add_box(*form, u"lblLabels"_s, u"用户名称："_s, u"txtUserName"_s, u"valdrine"_s);
-    txtPassword = add_box(*form, u"lblLabels"_s, u"口令："_s, u"txtPassword"_s, {});
+    txtUserName =
+        add_labelled_box(*form, u"lblLabels"_s, u"用户名称："_s, u"txtUserName"_s, u"valdrine"_s);
+    txtPassword = add_labelled_box(*form, u"lblLabels"_s, u"口令："_s, u"txtPassword"_s, {});
     txtPassword->setEchoMode(QLineEdit::Password);
-    add_box(*form, u"lbldate"_s, u"业务日期："_s, u"txtDate"_s,
-            QDate::currentDate().toString(u"yyyy-MM-dd"_s));
+    add_labelled_box(*form, u"lbldate"_s, u"业务日期："_s, u"txtDate"_s,
+                     QDate::currentDate().toString(u"yyyy-MM-dd"_s));
 
     const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
     buttons.ok->setObjectName(u"cmdOK"_s);

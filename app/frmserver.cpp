@@ -5,33 +5,27 @@
 
 #include "app/application_title.h"
 #include "listview/dialog_buttons.h"
+#include "listview/labelled_box.h"
 #include "platform/server_probe.h"
 #include "platform/settings_store.h"
 #include "platform/widgets/msgbox.h"
 #include "platform/widgets/wait_cursor.h"
 
 #include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
-frmserver::frmserver(QWidget* parent)
-    : QDialog(parent),
-      Text1(new QLineEdit(
-          settings_store::get(application_title(), settings_section(), u"connection"_s))) {
+frmserver::frmserver(QWidget* parent) : QDialog(parent) {
     setWindowTitle(application_title());
-    Text1->setObjectName(u"Text1"_s);
     auto* layout = new QVBoxLayout(this);
     auto* form = new QFormLayout;
     layout->addLayout(form);
-    auto* Label1 = new QLabel(u"SQLSERVER名称："_s);
-    Label1->setObjectName(u"Label1"_s);
-    Label1->setBuddy(Text1);
-    Text1->setAccessibleName(Label1->text());
-    form->addRow(Label1, Text1);
+    Text1 = add_labelled_box(
+        *form, u"Label1"_s, u"SQLSERVER名称："_s, u"Text1"_s,
+        settings_store::get(application_title(), settings_section(), u"connection"_s));
     const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
     buttons.ok->setObjectName(u"cmdOK"_s);
     buttons.cancel->setObjectName(u"cmdCancel"_s);

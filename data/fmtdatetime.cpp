@@ -9,6 +9,10 @@ QString fmtdatetime(const QDateTime& moment) {
     return moment.toString(u"yyyy/MM/dd HH:mm:ss"_s);
 }
 
+QString show_datetime(const QDateTime& moment) {
+    return moment.toString(u"yyyy-MM-dd HH:mm:ss"_s);
+}
+
 QDateTime system_clock() {
     return QDateTime::fromSecsSinceEpoch(QDateTime::currentSecsSinceEpoch());
 }

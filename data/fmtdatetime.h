@@ -11,6 +11,9 @@
 /// A moment as statements and the store write it: "yyyy/mm/dd hh:mm:ss".
 [[nodiscard]] QString fmtdatetime(const QDateTime& moment);
 
+/// A moment as the boxes show it: "yyyy-mm-dd hh:mm:ss".
+[[nodiscard]] QString show_datetime(const QDateTime& moment);
+
 /// Where the present moment comes from; tests hand in their own.
 using clock_source = std::function<QDateTime()>;
 

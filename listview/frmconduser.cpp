@@ -3,40 +3,19 @@
 
 #include "listview/frmconduser.h"
 
+#include "data/fmtdatetime.h"
 #include "listview/dialog_buttons.h"
+#include "listview/labelled_box.h"
 #include "listview/vc_in.h"
 #include "platform/conversion.h"
 #include "platform/guarded.h"
 
 #include <QFormLayout>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QLineEdit* add_box(QFormLayout& form, const QString& name, const QString& caption,
-                   QWidget* behind = nullptr) {
-    auto* box = new QLineEdit;
-    box->setObjectName(name);
-    box->setAccessibleName(caption);
-    auto* label = new QLabel(caption);
-    label->setObjectName(u"lblFieldLabel"_s);
-    label->setBuddy(box);
-    auto* row = new QHBoxLayout;
-    row->addWidget(box);
-    if (behind != nullptr) {
-        row->addWidget(behind);
-    }
-    form.addRow(label, row);
-    return box;
-}
-
-} // namespace
 
 frmconduser::frmconduser(operation_condition shown, vc_in& operators, QWidget* parent)
     : QDialog(parent), condition(std::move(shown)) {
@@ -50,9 +29,10 @@ frmconduser::frmconduser(operation_condition shown, vc_in& operators, QWidget* p
     cmdref->setToolTip(u"选择操作员"_s);
     cmdref->setAccessibleName(cmdref->toolTip());
     cmdref->setAutoDefault(false);
-    txtuserid = add_box(*form, u"txtuserid"_s, u"操作员号："_s, cmdref);
-    txtsdate = add_box(*form, u"txtsdate"_s, u"开始日期："_s);
-    txtedate = add_box(*form, u"txtedate"_s, u"截止日期："_s);
+    txtuserid =
+        add_labelled_box(*form, u"lblFieldLabel"_s, u"操作员号："_s, u"txtuserid"_s, {}, cmdref);
+    txtsdate = add_labelled_box(*form, u"lblFieldLabel"_s, u"开始日期："_s, u"txtsdate"_s);
+    txtedate = add_labelled_box(*form, u"lblFieldLabel"_s, u"截止日期："_s, u"txtedate"_s);
     const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
     buttons.ok->setObjectName(u"cmdOK"_s);
     buttons.cancel->setObjectName(u"cmdCancel"_s);
@@ -76,8 +56,8 @@ void frmconduser::pick_operator(vc_in& operators) {
 }
 
 void frmconduser::filltext() {
-    txtsdate->setText(condition.start.toString(u"yyyy-MM-dd HH:mm:ss"_s));
-    txtedate->setText(condition.end.toString(u"yyyy-MM-dd HH:mm:ss"_s));
+    txtsdate->setText(show_datetime(condition.start));
+    txtedate->setText(show_datetime(condition.end));
 }
 
 void frmconduser::fillcond() {

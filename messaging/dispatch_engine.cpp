@@ -7,6 +7,7 @@
 #include "data/c_recvedsms.h"
 #include "data/c_sendsms.h"
 #include "messaging/gateway_frame.h"
+#include "platform/try_step.h"
 
 namespace {
 
@@ -15,16 +16,6 @@ constexpr int first_poll_interval = 60000;
 constexpr int first_reply_timeout = 10000;
 constexpr int started_poll_interval = 2000;
 constexpr int started_reply_timeout = 60000;
-
-/// A step that may fail without stopping the ones behind it: the link and the queue go on with what
-/// there is, and the next poll tries again.
-template <class Step>
-void try_step(const Step& step) {
-    try {
-        step();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
-    }
-}
 
 } // namespace
 
@@ -49,6 +40,7 @@ void dispatch_engine::StopTomer() {
 }
 
 void dispatch_engine::initsend() {
+    // The link and the queue go on with what there is; the next poll tries again.
     try_step([this] {
         if (!parameters_) {
             parameters_ = used_.parameters.getrec();

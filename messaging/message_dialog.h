@@ -37,7 +37,7 @@ protected:
                 }));
         add_converted(
             QStringLiteral("txtStime"), QStringLiteral("发送时间："),
-            [this] { return record.stime.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")); },
+            [this] { return show_datetime(record.stime); },
             [this](const QString& text) {
                 record.stime = to_datetime(text);
                 record.imsend = record.stime == record.rtime;

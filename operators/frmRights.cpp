@@ -7,6 +7,7 @@
 #include "listview/view_definition.h"
 #include "platform/command.h"
 #include "platform/guarded.h"
+#include "platform/try_step.h"
 #include "platform/widgets/data_grid.h"
 
 #include <QGridLayout>
@@ -15,15 +16,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A step of opening; one that fails leaves the window as it is.
-template <class Step>
-void try_step(const Step& step) {
-    try {
-        step();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
-    }
-}
 
 void shape_grid(DataGrid& grid, const QString& view_no) {
     spListHeaders headers;
