@@ -24,7 +24,8 @@ CREATE TABLE customer (
     phone TEXT COLLATE NOCASE,
     memo TEXT COLLATE NOCASE
 );
-CREATE INDEX customer_mobile ON customer (mobile);
+-- Partial, so that reading every customer's mobile goes by number and not by this.
+CREATE INDEX customer_mobile ON customer (mobile) WHERE mobile <> '';
 CREATE TABLE parameters (
     ip TEXT COLLATE NOCASE,
     port INTEGER
@@ -141,7 +142,7 @@ CREATE VIEW vwrecvedsms AS
            ifnull(c.cname, '') AS cname
     FROM recvedsms r LEFT JOIN customer c
         ON c.cid = (SELECT min(same.cid) FROM customer same
-                    WHERE same.mobile = r.mobile AND r.mobile <> '');
+                    WHERE same.mobile = r.mobile AND same.mobile <> '');
 CREATE VIEW vwgsendsms AS
     SELECT g.gsid, g.cid, g.sms, g.imsend, g.isall, g.stime, g.rtime, ifnull(k.cname, '') AS cname
     FROM gsendsms g LEFT JOIN cusclass k ON k.ccid = g.cid;
