@@ -78,6 +78,8 @@ frmMain& client::open_main_window() {
 }
 
 std::optional<int> start_session(const QString& directory) {
+    // No server name outlives a restart.
+    settings_store::save(application_title(), settings_section(), u"connection"_s, {});
     try {
         strconn = make_strconn(directory);
         ensure_database(strconn);
@@ -85,8 +87,6 @@ std::optional<int> start_session(const QString& directory) {
         show_error(error);
         return 1;
     }
-    // No server name outlives a restart.
-    settings_store::save(application_title(), settings_section(), u"connection"_s, {});
     curuser = std::make_unique<rsclsuser>();
     frmLogin login;
     login.exec();

@@ -5,6 +5,7 @@
 
 #include "app/error_report.h"
 #include "data/literals.h"
+#include "data/nvltrim.h"
 #include "data/strconn.h"
 #include "listview/dialog_buttons.h"
 #include "listview/labelled_box.h"
@@ -23,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString login_query(const QString& name, const QString& password) {
-    if (password.trimmed().isEmpty()) {
+    if (nvltrim(password).isEmpty()) {
         return u"select * from users where username= %1and ( password='' or password is null)"_s
             .arg(text_literal(name));
     }

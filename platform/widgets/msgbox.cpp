@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
+#include <QWindow>
 
 namespace {
 
@@ -32,6 +33,10 @@ int show(QMessageBox::Icon icon, const QString& text, const QString& title,
     box.setTextFormat(Qt::PlainText);
     for (QAbstractButton* button : box.buttons()) {
         button->setIcon({}); // the buttons of the dialogs have none either
+    }
+    if (title.isEmpty()) { // the title bar would show the program's file name
+        box.winId();
+        box.windowHandle()->setTitle(QStringLiteral(" "));
     }
     return box.exec();
 }

@@ -52,6 +52,7 @@ private slots:
         const QString me = u"valdrine"_s;
         QTest::newRow("no password") << me << QString() << u"''"_s << QString();
         QTest::newRow("blanks") << me << u"  "_s << u"''"_s << QString();
+        QTest::newRow("wide blank") << me << u"\u3000"_s << u"''"_s << u"box"_s;
         QTest::newRow("any case") << u"VALDRINE"_s << u"Pass"_s << u"'pASS'"_s << QString();
         QTest::newRow("blank before name") << u" valdrine"_s << QString() << u"''"_s << u"box"_s;
         QTest::newRow("wrong") << me << u"x"_s << u"'y'"_s << u"box"_s;
@@ -319,6 +320,7 @@ private slots:
             set_setting(u"connection"_s, u"server"_s);
             person::expect_box(u"系统提示"_s, error, QMessageBox::Ok, QMessageBox::Critical);
             QCOMPARE(start_session(directory), std::optional(1));
+            QCOMPARE(setting(u"connection"_s), QString()); // no server name outlives a restart
         };
         start(folder.filePath(u"missing"_s),
               u"不能打开数据库文件，请检查文件和目录的权限。\n\n此文件或目录不存在"_s);
@@ -335,7 +337,6 @@ private slots:
                 [](frmLogin& login) { person::click(login, u"cmdOK"_s); });
             start(folder.path(), error);
             QVERIFY(file.seek(0) && file.readAll() == content);
-            QCOMPARE(setting(u"connection"_s), QString()); // no server name outlives a restart
         }
     }
 };

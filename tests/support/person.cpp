@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <QToolBar>
+#include <QWindow>
 
 #include <deque>
 
@@ -121,7 +122,9 @@ void person::expect_box(const QString& title, const QString& text,
                         QMessageBox::StandardButton answer, QMessageBox::Icon icon) {
     during_modal<QMessageBox>([=](QMessageBox& box) {
         const QString shown = box.windowTitle() + u'|' + box.text();
-        const bool matches = shown == title + u'|' + text && box.icon() == icon;
+        // A title bar without a text would show the name of the program's file.
+        const bool matches = shown == title + u'|' + text && box.icon() == icon &&
+                             !box.windowHandle()->title().isEmpty();
         QAbstractButton* button = box.button(answer);
         if (!matches || button == nullptr) {
             give_up(QStringLiteral("box \"%1\" with symbol %2 instead of \"%3|%4\"")
