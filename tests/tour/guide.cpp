@@ -20,19 +20,36 @@ namespace {
 
 constexpr int longest_run_ms = 120'000;
 constexpr int longest_wait_ms = 20'000;
+constexpr int longest_wait_for_frame_ms = 500;
 
 QDir folder;
+guide::frame shown = guide::frame::screen;
 int number = 1; // of the step that is going on
 
-/// Saves the whole screen: a dialog is seen above what it covers.
+QRect front_window() {
+    const QWidget* modal = QApplication::activeModalWidget();
+    const QWidget* front = modal == nullptr ? QApplication::activeWindow() : modal;
+    if (front == nullptr) {
+        return QGuiApplication::primaryScreen()->geometry();
+    }
+    // A window manager tells its title bar late, where there is one.
+    static_cast<void>(
+        QTest::qWaitFor([front] { return front->frameGeometry() != front->geometry(); },
+                        longest_wait_for_frame_ms));
+    return front->frameGeometry();
+}
+
+/// From the screen, so that a window is seen above what it covers.
 bool take_picture(const QString& name) {
     const QString file = QString::asprintf("%02d-%s.png", number, qPrintable(name));
-    return QGuiApplication::primaryScreen()->grabWindow(0).save(folder.filePath(file));
+    const QRect seen = shown == guide::frame::screen ? QRect() : front_window();
+    return QGuiApplication::primaryScreen()->grabWindow(0).copy(seen).save(folder.filePath(file));
 }
 
 } // namespace
 
-void guide::start(const QString& pictures) {
+void guide::start(const QString& pictures, frame wanted) {
+    shown = wanted;
     folder.setPath(pictures);
     folder.mkpath(u"."_s);
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {

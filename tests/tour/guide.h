@@ -13,11 +13,13 @@ class QWidget;
 /// should be ends the program at once, with a line and a picture that say so.
 namespace guide {
 
+enum class frame { screen, front_window };
+
 /// From now on a fatal message or a run that takes too long is a failure too.
-void start(const QString& pictures);
+void start(const QString& pictures, frame shown);
 
 /// A step is done: everything seen (in the window, then in the database) must read as expected.
-/// Saves the whole screen as NN-NAME.png and prints a line.
+/// Saves the screen, or the window in front, as NN-NAME.png and prints a line.
 void step(const QString& name, const QString& expected, const QStringList& seen);
 
 /// Goes on when the condition holds.

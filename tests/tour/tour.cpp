@@ -56,8 +56,10 @@ int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCommandLineParser parser;
     parser.addOption({u"pictures"_s, u"Save the pictures here."_s, u"folder"_s, u"build/tour"_s});
+    parser.addOption({u"front"_s, u"Save the window in front alone."_s});
     parser.process(application);
-    guide::start(parser.value(u"pictures"_s));
+    guide::start(parser.value(u"pictures"_s),
+                 parser.isSet(u"front"_s) ? guide::frame::front_window : guide::frame::screen);
     person::set_observer(guide::look_at);
     const QTemporaryDir folder;
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());

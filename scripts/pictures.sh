@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Takes the manual's pictures anew: of the tour's steps those that the manual names, small enough to
+# be kept (at most 128 colours).
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+source scripts/packages.sh
+
+install_packages "${build_packages[@]}" "${display_packages[@]}" imagemagick
+cmake --preset release -Wno-dev
+cmake --build --preset release --target smscrm_tour
+taken=$(mktemp -d)
+trap 'rm -rf "$taken"' EXIT
+xvfb-run -a -s "-screen 0 1280x900x24 -noreset" \
+    bash -c 'openbox 2>/dev/null & sleep 1; exec "$0" --front --pictures "$1"' \
+    build/release/bin/smscrm_tour "$taken"
+grep -o 'pictures/[a-z-]*\.png' docs/manual.zh_CN.md | sort -u | while read -r picture; do
+    name=$(basename "$picture")
+    convert "$taken"/[0-9]*[0-9]-"$name" +dither -colors 128 -strip "PNG8:docs/$picture"
+done
