@@ -124,8 +124,11 @@ void frmdatagrid::fSort() {
 }
 
 void frmdatagrid::fRefresh() {
-    const qsizetype row = rows_.position();
-    const bool on_row = rows_.State() == Recordset::StateEnum::open && !rows_.Bof() && !rows_.Eof();
+    const int row = DataGrid1->row(); // a search in vain leaves the cursor elsewhere
+    const bool on_row = row >= 0;
+    if (on_row) {
+        rows_.set_position(row);
+    }
     const QString key = controller_.getidstring();
     const QVariant id = on_row && rows_.column(key) >= 0 ? rows_.Fields(key) : QVariant();
 
@@ -145,11 +148,16 @@ void frmdatagrid::restore_position(const QVariant& key, qsizetype row) {
     if (rows_.Bof() && rows_.Eof()) {
         return;
     }
-    if (!key.isNull()) {
-        rows_.Find(u"[%1]=%2"_s.arg(controller_.getidstring(), key.toString()));
+    const qsizetype nearest = qBound<qsizetype>(0, row, rows_.RecordCount() - 1);
+    rows_.set_position(nearest);
+    const QString column = controller_.getidstring();
+    if (key.isNull() || rows_.Fields(column) == key) {
+        return;
     }
-    if (key.isNull() || rows_.Eof()) {
-        rows_.set_position(qBound<qsizetype>(0, row, rows_.RecordCount() - 1));
+    rows_.MoveFirst();
+    rows_.Find(u"[%1]=%2"_s.arg(column, key.toString()));
+    if (rows_.Eof()) {
+        rows_.set_position(nearest);
     }
 }
 

@@ -25,7 +25,6 @@ public:
     void Remove(qsizetype position);
     /// Puts the columns into the order of their `POS`.
     void sort_by_position();
-    void clear() noexcept { columns_.clear(); }
     /// The position from 1 of the column with exactly this key, or 0.
     [[nodiscard]] qint16 SUBIndex(const QString& key) const;
     /// What a reference pick left for the column with this key; empty when there is none.

@@ -99,14 +99,16 @@ void load_view(spListHeaders& headers, const QString& connection_string, const Q
     items.set_ActiveConnection(connection_string);
     items.Open(u"select * from viewitems where ViewNo=%1 order by pos"_s.arg(literal(view_no)));
 
-    if (!is_empty(view)) {
-        headers.isTwoS = view.Fields(u"isTwoS"_s);
-        headers.other = view.Fields(u"other"_s).toString();
-        headers.vName = view.Fields(u"viewName"_s).toString();
-        headers.ViewNo = view.Fields(u"ViewNo"_s).toString();
-        headers.ReadOnly = view.Fields(u"readonly"_s).toInt() != 0;
+    headers = spListHeaders();
+    headers.ViewNo = view_no;
+    if (is_empty(view)) {
+        return;
     }
-    headers.clear();
+    headers.isTwoS = view.Fields(u"isTwoS"_s);
+    headers.other = view.Fields(u"other"_s).toString();
+    headers.vName = view.Fields(u"viewName"_s).toString();
+    headers.ViewNo = view.Fields(u"ViewNo"_s).toString();
+    headers.ReadOnly = view.Fields(u"readonly"_s).toInt() != 0;
     for (; !items.Eof(); items.MoveNext()) {
         headers.Add(read_column(items));
     }

@@ -88,6 +88,9 @@ private slots:
         QCOMPARE(find(0, u"a"_s), u"11"_s);
         QCOMPARE(find(1, u"a"_s), u"2"_s);
         find(1, u"a"_s, false); // and the cursor left the rows
+        person::click(list, u"refresh"_s);
+        QCOMPARE(list.value(u"mid"_s), u"2"_s);
+        find(1, u"a"_s, false);
         QCOMPARE(find(0, u"c"_s), u"10"_s);
     }
 
@@ -152,7 +155,14 @@ private slots:
                 person::click(dialog, button);
             });
             open_list_window(program_.area, operators, u"operateview"_s);
-            return column_of(*program_.area.activeSubWindow()->widget(), 3);
+            auto& list = *qobject_cast<frmdatagrid*>(program_.area.activeSubWindow()->widget());
+            const int last = grid_of(list).model()->rowCount() - 1;
+            grid_of(list).selectRow(last);
+            person::click(list, u"refresh"_s);
+            if (grid_of(list).row() != last) { // though one operator stands in many rows
+                return u"another row"_s;
+            }
+            return column_of(list, 3);
         };
         QCOMPARE(shown({}, u"cmdOK"_s), u"a b c"_s);
         QCOMPARE(shown(u"7"_s, u"cmdOK"_s), u"b"_s);
@@ -215,6 +225,12 @@ private slots:
         person::expect_box(u"系统提示"_s, u"数据库操作失败。\n\nthere is no current row"_s,
                            QMessageBox::Ok, QMessageBox::Critical);
         person::click(list, u"Save"_s);
+        QCOMPARE(test_database::rows(layout), QStringList{u"900|x"_s});
+
+        test_database::execute(u"delete from viewdef where ViewNo='v_smsm'"_s);
+        const frmdatagrid& unknown = open();
+        QCOMPARE(grid_of(unknown).model()->columnCount(), 0);
+        person::click(unknown, u"Save"_s);
         QCOMPARE(test_database::rows(layout), QStringList{u"900|x"_s});
     }
 };
