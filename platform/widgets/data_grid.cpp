@@ -49,8 +49,8 @@ DataGrid::DataGrid(QWidget* parent) : QTableView(parent) {
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
     // A width is kept as a 16-bit number of twips: a column cannot be dragged wider than that.
-    horizontalHeader()->setMaximumSectionSize(
-        twips::to_pixels(std::numeric_limits<qint16>::max(), logicalDpiX()));
+    horizontalHeader()->setMaximumSectionSize(std::numeric_limits<qint16>::max() * logicalDpiX() /
+                                              twips::per_inch);
 }
 
 void DataGrid::set_columns(const QList<grid_column>& columns) {
