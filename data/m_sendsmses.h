@@ -23,6 +23,9 @@ public:
     [[nodiscard]] m_sendsms* Item(qsizetype index);
     [[nodiscard]] m_sendsms* Item(const QString& key);
     [[nodiscard]] qsizetype Count() const;
+    /// For loops over the messages in order; each is paired with its place.
+    [[nodiscard]] auto begin() const { return items_.begin(); }
+    [[nodiscard]] auto end() const { return items_.end(); }
     /// Removes one message; one that is not there is no error.
     void Remove(qsizetype index);
     void Remove(const QString& key);

@@ -16,6 +16,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -27,7 +28,11 @@ QString box_text(const QLineEdit& box) {
     return box.text();
 }
 QString box_text(const QPlainTextEdit& box) {
-    return box.toPlainText();
+    // The box's own way to tell its text makes plain blanks of non-breaking ones.
+    return box.document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
 }
 void set_box_text(QLineEdit& box, const QString& text) {
     box.setText(text);

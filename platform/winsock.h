@@ -22,8 +22,8 @@ public:
         host_resolved = 5,
         connecting = 6,
         connected = 7,
-        closing = 8, ///< the peer closed
-        error = 9,   ///< refused, broken or timed out
+        closing = 8, ///< the peer closed or reset the connection
+        error = 9,   ///< refused, unreachable or timed out
     };
 
     /// An operation that the present state or its arguments do not allow.

@@ -134,6 +134,8 @@ private slots:
         run(u"insert into recvedsms (mobile) values ('138'),('555'),('')"_s);
         QCOMPARE(rows(u"select gid, cid, cname, cusname, mobile from vwgroup"_s),
                  u"1|2|VIP|乙|138"_s);
+        const auto member = groups_.getrec(1);
+        QCOMPARE(member->cname + member->cusname + member->mobile, u"VIP乙138"_s);
         QCOMPARE(rows(u"select smsid, cname from vwsendsms order by 1"_s), u"1|乙 2| 3|"_s);
         QCOMPARE(rows(u"select smsrid, cid, cname from vwrecvedsms order by 1"_s),
                  u"1|1|甲 2|0| 3|0|"_s);
@@ -191,7 +193,7 @@ private slots:
     }
 
     void a_group_send_becomes_messages() {
-        run(u"insert into customer (cid, mobile) values (1, '1'), (2, '2'), (3, '3''s'), (4, '4')"_s);
+        run(u"insert into customer (cid, mobile) values (1, '8'), (2, '2'), (3, '3''s'), (4, '4')"_s);
         run(u"insert into cusclass values (5, 'A')"_s);
         run(u"insert into cgroup (cid, ccid) values (1, 5), (4, 5), (4, 5), (9, 5), (2, 6)"_s);
         const auto messages = [] {
@@ -204,13 +206,15 @@ private slots:
         const QDateTime later = now_.addSecs(1);
         QVERIFY(group_sends_.addrec(u"Hi"_s, 5, true, 0, now_, later));
         QCOMPARE(messages(),
-                 rest.arg(u"11"_s) + u' ' + rest.arg(u"44"_s) + u' ' + rest.arg(u"44"_s));
+                 rest.arg(u"81"_s) + u' ' + rest.arg(u"44"_s) + u' ' + rest.arg(u"44"_s));
         QVERIFY(group_sends_.addrec(u"Hi"_s, 7, true, 0, now_, later)); // nobody is in it
         QVERIFY(!group_sends_.addrec(u"it's"_s, 5, true, 0, now_, later));
         QVERIFY(!group_sends_.addrec(u"Hi"_s, 5, true, -1, now_, later)); // stops at the third
-        QCOMPARE(messages(), rest.arg(u"11"_s) + u' ' + rest.arg(u"22"_s));
-        QCOMPARE(rows(u"select cid || sms || imsend || isall || cname from vwgsendsms"_s),
-                 u"5Hi-10A 7Hi-10 5Hi-1-1A"_s);
+        QCOMPARE(messages(), rest.arg(u"81"_s) + u' ' + rest.arg(u"22"_s));
+        QCOMPARE(
+            rows(
+                u"select cid || sms || imsend || isall || cname || (stime > rtime) from vwgsendsms"_s),
+            u"5Hi-10A1 7Hi-101 5Hi-1-1A1"_s);
         QVERIFY(group_sends_.updaterec(1, 6, false, -1, later, now_));
         const m_gsendsms changed = *group_sends_.getrec(1);
         QVERIFY(changed.cid == 6 && !changed.imsend && changed.isall == -1 &&

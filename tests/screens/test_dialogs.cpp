@@ -185,7 +185,8 @@ private slots:
         pick(u"cmdcancel"_s);
         answer<frmSendsms>({{u"txtSms"_s, u"你好"_s}}, {}, u"cmdrefsms"_s);
         pick();
-        answer<frmSendsms>({{u"txtSms"_s, u"晚安"_s}}, {}, u"Cmdrefcus"_s);
+        answer<frmSendsms>({{u"txtSms"_s, u"晚安"_s}}, {{u"txtSms"_s, u"晚\u00a0安"_s}},
+                           u"Cmdrefcus"_s);
         pick();
         answer<frmSendsms>({{u"txtCname"_s, u"李四"_s}}, {});
         expect_question(go_on, QMessageBox::Yes);
@@ -208,9 +209,10 @@ private slots:
             person::click(dialog, u"cmdok"_s);
         });
         person::click(program_.list(u"mnusend"_s), u"Add"_s);
-        QCOMPARE(test_database::rows(
-                     u"select mobile, sms, cid, imsend, stime > rtime, sendisok from sendsms"_s),
-                 (QStringList{u"139|晚安|1|-1|0|0"_s, u"139|晚安|0|0|1|0"_s}));
+        QCOMPARE(
+            test_database::rows(
+                u"select mobile, sms, cid, imsend, stime > rtime, sendisok, smsfrom from sendsms"_s),
+            (QStringList{u"139|晚\u00a0安|1|-1|0|0|0"_s, u"139|晚\u00a0安|0|0|1|0|0"_s}));
     }
 
     void puts_a_customer_into_a_class() {
