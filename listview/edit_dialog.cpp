@@ -152,6 +152,18 @@ QPlainTextEdit* edit_dialog::add_text(const QString& name, const QString& label,
     return box;
 }
 
+void edit_dialog::add_note(const QString& name, const QPlainTextEdit& box,
+                           std::function<QString(const QString&)> tell) {
+    auto* note = new QLabel(tell({}), this);
+    note->setObjectName(name);
+    note->setForegroundRole(QPalette::PlaceholderText);
+    auto* row = new QHBoxLayout; // a row like the others
+    row->addWidget(note);
+    form_->addRow(static_cast<QWidget*>(nullptr), row);
+    connect(&box, &QPlainTextEdit::textChanged, note,
+            [note, &box, tell = std::move(tell)] { note->setText(tell(box_text(box))); });
+}
+
 QCheckBox* edit_dialog::add_check(const QString& name, const QString& caption, qint16& field) {
     auto* box = new QCheckBox(caption, this);
     add_row(name, {}, box);

@@ -6,6 +6,7 @@
 #include "data/fmtdatetime.h"
 #include "listview/edit_dialog.h"
 #include "listview/vc_in.h"
+#include "messaging/sms_length.h"
 #include "platform/conversion.h"
 #include "platform/guarded.h"
 
@@ -35,6 +36,7 @@ protected:
                         txtSms->setPlainText(picked->picked(QStringLiteral("text")));
                     }
                 }));
+        add_note(QStringLiteral("lblLength"), *txtSms, sms_length::tell);
         add_converted(
             QStringLiteral("txtStime"), QStringLiteral("发送时间："),
             [this] { return show_datetime(record.stime); },

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "messaging/gateway_frame.h"
+#include "messaging/sms_length.h"
 #include "tests/support/error_of.h"
 
 #include <QTest>
@@ -32,6 +33,26 @@ private slots:
         QCOMPARE(text("fffe310000003dd8"), u"\uFEFF1"_s + QChar(0) + QChar(0xD83D));
         QCOMPARE(text("32"), u"2"_s); // half a character
         QCOMPARE(text("604f7d"), u"你}"_s);
+    }
+
+    void counts_short_messages() {
+        const auto counted = [](const QString& text) {
+            const sms_length length = sms_length::of(text);
+            return u"%1/%2"_s.arg(length.characters).arg(length.messages);
+        };
+        const auto many = [](qsizetype count, QStringView text) {
+            return text.toString().repeated(count);
+        };
+        QCOMPARE(counted({}), u"0/0"_s);
+        QCOMPARE(counted(many(158, u"a") + u"@\n"_s), u"160/1"_s);
+        QCOMPARE(counted(many(161, u"a")), u"161/2"_s);
+        QCOMPARE(counted(many(306, u"é") + u'ç'), u"307/5"_s); // a letter that is not in it
+        QCOMPARE(counted(many(306, u"é") + u'Ç'), u"307/3"_s);
+        QCOMPARE(counted(many(80, u"€")), u"80/1"_s);
+        QCOMPARE(counted(many(152, u"a") + u'€' + many(152, u"a")), u"305/3"_s); // not cut in two
+        QCOMPARE(counted(many(70, u"中")), u"70/1"_s);
+        QCOMPARE(counted(many(134, u"中")), u"134/2"_s);
+        QCOMPARE(counted(many(66, u"中") + u"😀"_s + many(66, u"中")), u"133/3"_s);
     }
 
     void splits_data() {

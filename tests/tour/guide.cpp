@@ -68,7 +68,7 @@ void guide::step(const QString& name, const QString& expected, const QStringList
             fail(u"%1: expected \"%2\", seen \"%3\""_s.arg(name, expected, seen.join(u"\", \""_s)));
         }
     }
-    QApplication::processEvents();
+    QGuiApplication::sync(); // a window that was closed is gone
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && QTest::qWaitForWindowExposed(window)) {
             window->repaint();
