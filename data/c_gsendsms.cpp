@@ -10,6 +10,14 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// In messages.
+constexpr qsizetype long_run = 2000;
+constexpr qsizetype report_interval = 500;
+
+} // namespace
+
 void c_gsendsms::openrs(Recordset& rs) const {
     open_detached(rs, u"SELECT* From vwgsendsms"_s);
 }
@@ -33,7 +41,8 @@ std::optional<m_gsendsms> c_gsendsms::getrec(qint16 gsid) const {
 }
 
 bool c_gsendsms::addrec(const QString& sms, qint16 cid, bool imsend, qint16 isall,
-                        const QDateTime& rtime, const QDateTime& stime) const {
+                        const QDateTime& rtime, const QDateTime& stime,
+                        const progress_report& report) const {
     try {
         Connection cn;
         cn.ConnectionString = connection;
@@ -42,13 +51,15 @@ bool c_gsendsms::addrec(const QString& sms, qint16 cid, bool imsend, qint16 isal
         // too.
         cn.BeginTrans();
         try {
-            expand(cn, {.cid = cid,
-                        .stime = stime,
-                        .imsend = imsend,
-                        .rtime = rtime,
-                        .cname = {},
-                        .isall = isall,
-                        .sms = sms});
+            expand(cn,
+                   {.cid = cid,
+                    .stime = stime,
+                    .imsend = imsend,
+                    .rtime = rtime,
+                    .cname = {},
+                    .isall = isall,
+                    .sms = sms},
+                   report);
         } catch (const std::exception&) {
             cn.CommitTrans();
             throw;
@@ -60,7 +71,8 @@ bool c_gsendsms::addrec(const QString& sms, qint16 cid, bool imsend, qint16 isal
     }
 }
 
-void c_gsendsms::expand(Connection& connection, const m_gsendsms& send) {
+void c_gsendsms::expand(Connection& connection, const m_gsendsms& send,
+                        const progress_report& report) {
     connection.Execute(
         u"INSERT INTO gsendsms (cid,sms,  imsend,  isall,stime, rtime) values (%1,%2,%3,%4,%5,%6)"_s
             .arg(literal(send.cid), literal(send.sms), literal(send.imsend), literal(send.isall),
@@ -77,7 +89,11 @@ void c_gsendsms::expand(Connection& connection, const m_gsendsms& send) {
     const QString after =
         u",0,-1,%1,%2,%3)"_s.arg(literal(send.imsend), literal(send.rtime), literal(send.stime));
     const RowStore& rows = addressees.store();
+    const bool reports = report && rows.rows() > long_run;
     for (qsizetype row = 0; row < rows.rows(); ++row) {
+        if (reports && row % report_interval == 0) {
+            report(row, rows.rows());
+        }
         const qint16 customer = to_int16(rows.value(row, 0));
         connection.Execute(before + literal(rows.text(row, 1)) + text + literal(customer) + after);
     }

@@ -6,12 +6,17 @@
 #include "data/m_gsendsms.h"
 #include "data/record_access.h"
 
+#include <functional>
+
 class Connection;
 
 /// Group sends: table `gsendsms`, read through view `vwgsendsms`, expanded into `sendsms` when
 /// stored.
 class c_gsendsms : public record_access {
 public:
+    /// Takes how many messages are written, and how many there will be.
+    using progress_report = std::function<void(qsizetype done, qsizetype total)>;
+
     void openrs(Recordset& rs) const;
     /// Opens the customers, not group sends; nothing calls it.
     void searchsms(Recordset& rs) const;
@@ -19,9 +24,10 @@ public:
     [[nodiscard]] std::optional<m_gsendsms> getrec(qint16 gsid) const;
     /// Stores the group send and one pending message for each customer addressed; all of it is on
     /// disk when the call returns. After an error half-way what was written stays, and the answer
-    /// is false.
+    /// is false. A long run tells `report` from time to time how far it has come.
     [[nodiscard]] bool addrec(const QString& sms, qint16 cid, bool imsend, qint16 isall,
-                              const QDateTime& rtime, const QDateTime& stime) const;
+                              const QDateTime& rtime, const QDateTime& stime,
+                              const progress_report& report = {}) const;
     /// Leaves the messages made from it as they are.
     [[nodiscard]] bool updaterec(qint16 gsid, qint16 cid, bool imsend, qint16 isall,
                                  const QDateTime& rtime, const QDateTime& stime) const;
@@ -29,5 +35,6 @@ public:
     [[nodiscard]] bool deleterec(qint16 gsid) const;
 
 private:
-    static void expand(Connection& connection, const m_gsendsms& send);
+    static void expand(Connection& connection, const m_gsendsms& send,
+                       const progress_report& report);
 };

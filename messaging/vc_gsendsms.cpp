@@ -4,6 +4,7 @@
 #include "messaging/vc_gsendsms.h"
 
 #include "platform/widgets/msgbox.h"
+#include "platform/widgets/progress_box.h"
 #include "platform/widgets/wait_cursor.h"
 
 #include <QApplication>
@@ -39,6 +40,8 @@ bool vc_gsendsms::validate(const m_gsendsms& checked) const {
 
 bool vc_gsendsms::insert(const m_gsendsms& added) const {
     const wait_cursor waiting;
+    progress_box box(u"正在写入短信，请稍候……"_s);
     return records->addrec(added.sms, added.cid, added.imsend, added.isall, added.rtime,
-                           added.stime);
+                           added.stime,
+                           [&box](qsizetype done, qsizetype total) { box.show(done, total); });
 }

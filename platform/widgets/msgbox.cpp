@@ -3,29 +3,13 @@
 
 #include "platform/widgets/msgbox.h"
 
+#include "platform/widgets/owner_window.h"
+
 #include <QAbstractButton>
-#include <QApplication>
 #include <QMessageBox>
 #include <QWindow>
 
 namespace {
-
-/// The window that the operator works in; a box without one would open in a corner of its own.
-QWidget* owner_window() {
-    // An edit dialog has just hidden itself when its outcome is told: then the window behind it.
-    for (QWidget* window = QApplication::activeWindow(); window != nullptr;
-         window = window->parentWidget()) {
-        if (window->isVisible()) {
-            return window->window();
-        }
-    }
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->windowType() == Qt::Window) {
-            return window;
-        }
-    }
-    return nullptr;
-}
 
 int show(QMessageBox::Icon icon, const QString& text, const QString& title,
          QMessageBox::StandardButtons buttons) {

@@ -220,6 +220,18 @@ private slots:
         QVERIFY(changed.cid == 6 && !changed.imsend && changed.isall == -1 &&
                 changed.sms.isEmpty() && changed.rtime == later && changed.stime == now_);
         QVERIFY(group_sends_.deleterec(1) && !group_sends_.getrec(1));
+
+        run(u"delete from customer"_s);
+        QStringList reports;
+        for (const auto& last : {u"2000"_s, u"2001"_s}) {
+            run(u"insert or ignore into customer (cid, mobile) with recursive n(i) as (values (1) union all select i+1 from n where i<"_s +
+                last + u") select i, '1' from n"_s);
+            QVERIFY(
+                group_sends_.addrec(u"Hi"_s, 0, true, -1, now_, later, [&](auto done, auto all) {
+                    reports.append(u"%1/%2"_s.arg(done).arg(all));
+                }));
+        }
+        QCOMPARE(reports.join(u' '), u"0/2001 500/2001 1000/2001 1500/2001 2000/2001"_s);
     }
 
     void a_group_of_constants_is_loaded() {
