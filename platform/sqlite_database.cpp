@@ -28,6 +28,14 @@ bool is_old_format(const QString& path) {
     return header.startsWith("Standard Jet DB") || header.startsWith("Standard ACE DB");
 }
 
+/// How to open for reading alone. Such a reader cannot take away the log that it has to make where
+/// there is none: there it may write, and `query_only` holds it back.
+int reading_flags(const QString& path) {
+    const bool has_log =
+        QFileInfo::exists(path + u"-wal"_s) || QFileInfo::exists(path + u"-journal"_s);
+    return has_log ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+}
+
 DataError::Kind kind_of(int result_code) {
     switch (result_code & 0xff) {
     case SQLITE_BUSY:
@@ -65,8 +73,8 @@ void SqliteDatabase::handle_deleter::operator()(sqlite3* handle) const noexcept 
 }
 
 SqliteDatabase::SqliteDatabase(const QString& path, Mode mode, int lock_wait) {
-    if (!QFileInfo::exists(path)) {
-        if (mode == Mode::existing) {
+    if (mode != Mode::memory && !QFileInfo::exists(path)) {
+        if (mode != Mode::create) {
             throw DataError(DataError::Kind::missing_file, path);
         }
         QFile file(path);
@@ -74,9 +82,13 @@ SqliteDatabase::SqliteDatabase(const QString& path, Mode mode, int lock_wait) {
             throw DataError(DataError::Kind::cannot_open, file.errorString());
         }
     }
-    open(path);
+    open(mode == Mode::memory ? u":memory:"_s : path,
+         mode == Mode::read_only ? reading_flags(path) : SQLITE_OPEN_READWRITE);
+    // Not waited for: a file on a read-only medium or held by somebody else keeps its mode.
     if (mode == Mode::existing) {
-        use_write_ahead_log(path);
+        run_first("PRAGMA journal_mode=WAL", path);
+    } else if (mode == Mode::read_only) {
+        run_first("PRAGMA query_only=1; SELECT 1 FROM sqlite_master", path);
     }
     sqlite3_busy_timeout(handle_.get(), lock_wait);
     execute_script("PRAGMA synchronous=FULL");
@@ -84,10 +96,10 @@ SqliteDatabase::SqliteDatabase(const QString& path, Mode mode, int lock_wait) {
 
 SqliteDatabase::~SqliteDatabase() = default;
 
-void SqliteDatabase::open(const QString& path) {
+void SqliteDatabase::open(const QString& path, int flags) {
     sqlite3* handle = nullptr;
     const int result = sqlite3_open_v2(QDir::toNativeSeparators(path).toUtf8().constData(), &handle,
-                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+                                       flags | SQLITE_OPEN_NOMUTEX, nullptr);
     handle_.reset(handle);
     if (result != SQLITE_OK) {
         throw DataError(DataError::Kind::cannot_open, QString::fromUtf8(sqlite3_errstr(result)));
@@ -95,10 +107,8 @@ void SqliteDatabase::open(const QString& path) {
     sqlite3_extended_result_codes(handle, 1);
 }
 
-void SqliteDatabase::use_write_ahead_log(const QString& path) {
-    // Not waited for: a file on a read-only medium or held by somebody else keeps its mode.
-    const int result =
-        sqlite3_exec(handle_.get(), "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+void SqliteDatabase::run_first(const char* sql, const QString& path) {
+    const int result = sqlite3_exec(handle_.get(), sql, nullptr, nullptr, nullptr);
     if (kind_of(result) == DataError::Kind::not_a_database) {
         const QString detail = QString::fromUtf8(sqlite3_errmsg(handle_.get()));
         handle_.reset();
@@ -162,6 +172,24 @@ qint64 SqliteDatabase::last_insert_rowid() const {
 
 int SqliteDatabase::total_changes() const {
     return sqlite3_total_changes(handle_.get());
+}
+
+void SqliteDatabase::copy_to(SqliteDatabase& target) {
+    constexpr int pages_a_step = 1024;
+    // An open read transaction keeps the moment: otherwise every write of somebody else's would
+    // start the copy over.
+    execute_script("BEGIN; SELECT 1 FROM sqlite_master");
+    sqlite3_backup* copying =
+        sqlite3_backup_init(target.handle_.get(), "main", handle_.get(), "main");
+    if (copying == nullptr) {
+        target.raise();
+    }
+    while (sqlite3_backup_step(copying, pages_a_step) == SQLITE_OK) {
+    }
+    if (sqlite3_backup_finish(copying) != SQLITE_OK) {
+        target.raise();
+    }
+    execute_script("COMMIT");
 }
 
 void SqliteDatabase::fold_log() {

@@ -18,11 +18,16 @@ public:
     /// The usual wait for a lock, in milliseconds.
     static constexpr int lock_wait_ms = 3000;
 
-    enum class Mode { existing, create };
+    enum class Mode {
+        existing,
+        create,    ///< makes an empty file, readable by its owner alone, where there is none
+        read_only, ///< changes no byte of the file and leaves no log that was not there
+        memory,    ///< an empty database of its own in memory; the path is not used
+    };
 
-    /// Opens the file; `create` makes an empty one, readable by its owner alone, where there is
-    /// none. `lock_wait` is how long opening and every statement wait for a lock, in milliseconds.
-    /// Throws DataError (missing_file, cannot_open, old_format, not_a_database, locked).
+    /// Opens the file. `lock_wait` is how long opening and every statement wait for a lock, in
+    /// milliseconds. Throws DataError (missing_file, cannot_open, old_format, not_a_database,
+    /// locked).
     explicit SqliteDatabase(const QString& path, Mode mode = Mode::existing,
                             int lock_wait = lock_wait_ms);
     ~SqliteDatabase();
@@ -48,13 +53,16 @@ public:
     [[nodiscard]] bool in_transaction() const;
     /// The file under the open connection was deleted, renamed or replaced since.
     [[nodiscard]] bool moved() const;
+    /// Copies all content over that of `target`, as it is at this moment: others may go on writing
+    /// meanwhile. Throws DataError.
+    void copy_to(SqliteDatabase& target);
     /// Writes the log back into the file and empties it, unless somebody is reading from it just
     /// now.
     void fold_log();
 
 private:
-    void open(const QString& path);
-    void use_write_ahead_log(const QString& path);
+    void open(const QString& path, int flags);
+    void run_first(const char* sql, const QString& path);
     [[noreturn]] void raise() const;
 
     struct handle_deleter {
