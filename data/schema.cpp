@@ -36,11 +36,7 @@ bool needs_tables(const QString& path) {
 
 } // namespace
 
-void ensure_database(const QString& connection_string) {
-    const QString path = data_source(connection_string);
-    if (!needs_tables(path)) {
-        return;
-    }
+void make_database(const QString& path) {
     SqliteDatabase database(path, SqliteDatabase::Mode::create);
     database.execute_script("BEGIN EXCLUSIVE");
     // Two first starts at once: the second finds the tables when its turn comes.
@@ -50,4 +46,11 @@ void ensure_database(const QString& connection_string) {
     }
     database.execute_script("COMMIT");
     database.execute_script("PRAGMA journal_mode=WAL");
+}
+
+void ensure_database(const QString& connection_string) {
+    const QString path = data_source(connection_string);
+    if (needs_tables(path)) {
+        make_database(path);
+    }
 }

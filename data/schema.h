@@ -5,8 +5,11 @@
 
 #include <QString>
 
+/// Makes the database of a fresh office at `path`: schema, first operator and all delivered rows in
+/// one transaction, so that being killed half-way leaves nothing behind. A file that holds a table
+/// is left as it is. Throws DataError when the database cannot be made.
+void make_database(const QString& path);
+
 /// Makes the database that `connection_string` names when its file is missing or holds no table
-/// yet: schema, first operator and all delivered rows in one transaction, so that a start killed
-/// half-way leaves nothing behind. Any other file is left as it is, readable or not. Throws
-/// DataError when the database cannot be made.
+/// yet. Any other file is left as it is, readable or not. Throws DataError as make_database does.
 void ensure_database(const QString& connection_string);
