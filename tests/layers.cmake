@@ -11,6 +11,7 @@ set(messaging_may ${listview_may} messaging)
 set(operators_may ${listview_may} operators)
 set(app_may ${listview_may} directory messaging operators app)
 set(gateway_may gateway)
+set(tools_may platform data tools)
 
 set(faults "")
 file(GLOB files RELATIVE ${ROOT} ${ROOT}/*/*.h ${ROOT}/*/*.cpp ${ROOT}/platform/widgets/*)

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "data/strconn.h"
+#include "platform/connection_pool.h"
+#include "tests/support/test_database.h"
+
+#include <QProcess>
+#include <QTest>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+class test_smsdb : public QObject {
+    Q_OBJECT
+
+private:
+    // Runs a shell line to its end; told_ is then all that it wrote. FILE and DIR stand for the
+    // database and its folder. No file can grow beyond 200 KiB.
+    int run(QString line) {
+        line.replace(u"FILE"_s, database_->path()).replace(u"DIR"_s, database_->folder());
+        const QString setting = u"ulimit -f 400; exec 2>&1; PATH=%1:$PATH; "_s;
+        QProcess shell;
+        shell.start(u"sh"_s, {u"-c"_s, setting.arg(QString::fromUtf8(SMSDB_FOLDER)) + line});
+        shell.waitForFinished();
+        told_ = shell.readAll();
+        return shell.exitCode();
+    }
+
+    static QStringList content() {
+        return test_database::rows(
+            u"select sql from sqlite_master where sql > '' union all select keyword from viewitems union all select cname from customer"_s);
+    }
+
+    std::optional<test_database> database_;
+    QByteArray told_;
+
+private slots:
+    void init() { database_.emplace(); }
+
+    void answers_data() {
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("answer");
+        const auto finds = [](const char* sql, const QString& found) {
+            QTest::newRow(sql) << QString::fromUtf8(sql) << u"smsdb check FILE"_s << 1 << found;
+        };
+        finds("insert into cgroup (cid,ccid) values (7,0)", u"finding: cgroup.ccid points"_s);
+        finds("insert into sendsms (cid) values (0),(7),(null)", u"in 2 row(s): 2, 3\n"_s);
+        finds("insert into gsendsms (cid,isall) values (0,0),(9,-1),(9,0)", u"row(s): 3\n"_s);
+        finds("delete from viewdef where ViewNo='vusers'", u"in 2 row(s): 40, 41\n"_s);
+        finds("update parameters set port=70000", u"parameters.port holds no 16-bit"_s);
+        finds("delete from parameters", u"parameters: holds 0 rows"_s);
+        finds("drop view vwgroup", u"view vwgroup is missing"_s);
+        finds("alter table customer drop memo", u"column customer.memo is missing"_s);
+        finds("update sqlite_sequence set seq=26214 where name='users'", u"number 26214 of"_s);
+        const QString big =
+            u"insert into sendsms (cid,sms,sendisok,stime) values (0,hex(zeroblob(200000)),-1,'2024/1/1')"_s;
+        QTest::newRow("clean") << big << u"smsdb check FILE"_s << 0 << u"\nno findings\n"_s;
+        const auto refuses = [&big](const char* line, const QString& complaint) {
+            QTest::newRow(line) << big << QString::fromUtf8(line) << 2 << complaint;
+        };
+        refuses("smsdb check FILE FILE", u"takes 1 file"_s);
+        refuses("smsdb check DIR/none", u"there is no such file"_s);
+        refuses("smsdb check DIR/text", u"is no database"_s);
+        refuses("smsdb create DIR/text", u"exists"_s);
+    }
+
+    void answers() {
+        QFETCH(QString, sql);
+        QFETCH(QString, line);
+        QFETCH(QString, answer);
+        test_database::execute(sql);
+        connection_pool::clear(); // or reading the file would drop the locks
+        QCOMPARE(run(u"echo text >DIR/text; md5sum DIR/*"_s), 0);
+        const QByteArray before = told_;
+        QTEST(run(line), "status");
+        QVERIFY2(told_.contains(answer.toUtf8()), told_);
+        QCOMPARE(run(u"md5sum DIR/*"_s), 0);
+        QCOMPARE(told_, before);
+    }
+
+    void creates() {
+        test_database made;
+        const QStringList expected = content();
+        QCOMPARE(run(u"rm FILE; smsdb create FILE"_s), 0);
+        strconn = make_strconn(database_->folder());
+        QCOMPARE(content(), expected);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_smsdb)
+#include "test_smsdb.moc"

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tools/console.h"
+
+#include "platform/data_error.h"
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+void print(const QString& text) {
+    std::fputs(text.toLocal8Bit().constData(), stdout);
+}
+
+void complain(const QString& what) {
+    std::fputs((u"smsdb: "_s + what + u'\n').toLocal8Bit().constData(), stderr);
+}
+
+QString describe(const DataError& error, const QString& file) {
+    switch (error.kind()) {
+    case DataError::Kind::missing_file:
+        return u"%1: there is no such file"_s.arg(file);
+    case DataError::Kind::cannot_open:
+        return u"%1: cannot be opened: %2"_s.arg(file, error.detail());
+    case DataError::Kind::not_a_database:
+        return u"%1: is no database of this system or is damaged: %2"_s.arg(file, error.detail());
+    case DataError::Kind::old_format:
+        return u"%1: is a database of the old format, which has to be imported first"_s.arg(file);
+    case DataError::Kind::locked:
+        return u"%1: is in use by another program"_s.arg(file);
+    case DataError::Kind::disk:
+        return u"%1: reading or writing failed: %2"_s.arg(file, error.detail());
+    default:
+        return u"%1: %2"_s.arg(file, error.detail());
+    }
+}
+
+QString some_of(const QStringList& items) {
+    constexpr qsizetype enough = 8;
+    const QString shown = items.first(qMin(enough, items.size())).join(u", "_s);
+    return items.size() > enough ? shown + u", …"_s : shown;
+}

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class DataError;
+
+/// Writes a text to standard output.
+void print(const QString& text);
+
+/// Writes one line to standard error, after the program's name.
+void complain(const QString& what);
+
+/// What went wrong with a file, in a line.
+[[nodiscard]] QString describe(const DataError& error, const QString& file);
+
+/// The first few of a long list, as a text.
+[[nodiscard]] QString some_of(const QStringList& items);

@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tools/inspection.h"
+
+#include "data/delivered_views.h"
+#include "data/schema_sql.h"
+#include "platform/data_error.h"
+#include "platform/sqlite_database.h"
+#include "tools/console.h"
+#include "tools/query.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A column that names a row of another table.
+struct reference {
+    QStringView table;
+    QStringView column;
+    QStringView target;
+    QStringView target_key;
+    QStringView unless; ///< the rows of which nothing is asked
+};
+
+// Where the screens let 0 stand, it means none. A membership or a right without either side is
+// shown nowhere, so it is a fault.
+constexpr auto references = std::to_array<reference>({
+    {u"cgroup", u"cid", u"customer", u"cid", u"0"},
+    {u"cgroup", u"ccid", u"cusclass", u"ccid", u"0"},
+    {u"sendsms", u"cid", u"customer", u"cid", u"cid IS 0"},
+    {u"gsendsms", u"cid", u"cusclass", u"ccid", u"cid IS 0 OR isall <> 0"},
+    {u"rights", u"userid", u"users", u"userid", u"0"},
+    {u"rights", u"funid", u"Functions", u"FunId", u"0"},
+    {u"operatelog", u"userid", u"users", u"userid", u"userid IS 0"},
+    {u"viewitems", u"ViewNo", u"viewdef", u"ViewNo", u"0"},
+});
+
+/// The numbering is nearly used up from here on, in per cent of all numbers.
+constexpr qint64 nearly_full = 80;
+
+class inspector {
+public:
+    explicit inspector(SqliteDatabase& database) : database_(database) {
+        delivered_.execute_script(schema_sql);
+        write_delivered_views(delivered_);
+    }
+
+    inspection inspect();
+
+private:
+    template <class Step>
+    void attempt(const Step& step);
+    void report(const QString& finding) { found_.findings.append(finding); }
+    void report_rows(const QString& what, const QString& table, const QString& condition);
+
+    void look_for(const QString& name, const QString& kind);
+    void look_at_key(const QString& table, const QString& key);
+    void look_at_numbers(const QString& table);
+    void look_at_reference(const reference& checked);
+    void look_at_parameters();
+    void look_at_view_definitions();
+
+    SqliteDatabase& database_;
+    SqliteDatabase delivered_{{}, SqliteDatabase::Mode::memory}; ///< how everything should be
+    inspection found_;
+    bool sound_ = true;    ///< the engine finds nothing broken
+    bool complete_ = true; ///< nothing of the schema is missing
+};
+
+/// What cannot be read because of a fault that is already reported is passed over.
+template <class Step>
+void inspector::attempt(const Step& step) {
+    try {
+        step();
+    } catch (const DataError& error) {
+        const bool explained = (error.kind() == DataError::Kind::not_a_database && !sound_) ||
+                               (error.kind() == DataError::Kind::statement && !complete_);
+        if (!explained) {
+            throw;
+        }
+    }
+}
+
+void inspector::report_rows(const QString& what, const QString& table, const QString& condition) {
+    const QStringList rows = query_column(
+        database_, u"SELECT rowid FROM %1 WHERE %2 ORDER BY rowid"_s.arg(table, condition));
+    if (!rows.isEmpty()) {
+        report(u"%1 in %2 row(s): %3"_s.arg(what).arg(rows.size()).arg(some_of(rows)));
+    }
+}
+
+QStringList columns_of(SqliteDatabase& database, const QString& table) {
+    return query_column(database, u"SELECT lower(name) FROM pragma_table_info('%1')"_s.arg(table));
+}
+
+void inspector::look_for(const QString& name, const QString& kind) {
+    if (query_number(
+            database_,
+            u"SELECT count(*) FROM sqlite_master WHERE type = '%1' AND name = '%2' COLLATE NOCASE"_s
+                .arg(kind, name)) == 0) {
+        complete_ = false;
+        report(u"%1 %2 is missing"_s.arg(kind, name));
+        return;
+    }
+    QStringList there;
+    try {
+        there = columns_of(database_, name);
+    } catch (const DataError& error) {
+        if (error.kind() != DataError::Kind::statement) {
+            throw;
+        }
+        complete_ = false; // a view over something that is missing
+        report(u"%1 %2 cannot be read: %3"_s.arg(kind, name, error.detail()));
+        return;
+    }
+    for (const QString& column : columns_of(delivered_, name)) {
+        if (!there.contains(column)) {
+            complete_ = false;
+            report(u"column %1.%2 is missing"_s.arg(name, column));
+        }
+    }
+}
+
+void inspector::look_at_key(const QString& table, const QString& key) {
+    const QStringList row =
+        query_rows(
+            database_,
+            u"SELECT count(*), max(ifnull(max(%2), 0), ifnull((SELECT max(seq) FROM sqlite_sequence WHERE name = '%1' COLLATE NOCASE), 0)) FROM %1"_s
+                .arg(table, key))
+            .first();
+    const numbering counted{table, key, row.at(0).toLongLong(), row.at(1).toLongLong()};
+    found_.numberings.append(counted);
+    if (counted.highest * 100 >= last_number * nearly_full) {
+        report(u"%1.%2: number %3 of %4 has been given out"_s.arg(table, key)
+                   .arg(counted.highest)
+                   .arg(last_number));
+    }
+}
+
+void inspector::look_at_numbers(const QString& table) {
+    const QStringList columns = query_column(
+        delivered_,
+        u"SELECT name FROM pragma_table_info('%1') WHERE type = 'INTEGER'"_s.arg(table));
+    for (const QString& column : columns) {
+        report_rows(
+            u"%1.%2 holds no 16-bit number"_s.arg(table, column), table,
+            u"%1 IS NOT NULL AND (typeof(%1) <> 'integer' OR %1 NOT BETWEEN -32768 AND 32767)"_s
+                .arg(column));
+    }
+}
+
+void inspector::look_at_reference(const reference& checked) {
+    report_rows(
+        u"%1.%2 points nowhere (%3)"_s.arg(checked.table, checked.column, checked.target),
+        checked.table.toString(),
+        u"NOT (%1) AND NOT EXISTS (SELECT 1 FROM %2 WHERE %2.%3 = %4.%5)"_s.arg(
+            checked.unless, checked.target, checked.target_key, checked.table, checked.column));
+}
+
+void inspector::look_at_parameters() {
+    const qint64 rows = query_number(database_, u"SELECT count(*) FROM parameters"_s);
+    if (rows != 1) {
+        report(u"parameters: holds %1 rows where there must be one"_s.arg(rows));
+    }
+    report_rows(u"parameters.port is empty"_s, u"parameters"_s, u"port IS NULL"_s);
+}
+
+void inspector::look_at_view_definitions() {
+    for (const QString& view : query_column(delivered_, u"SELECT ViewNo FROM viewdef"_s)) {
+        for (const QString& table : {u"viewdef"_s, u"viewitems"_s}) {
+            if (query_number(database_, u"SELECT count(*) FROM %1 WHERE ViewNo = '%2'"_s.arg(
+                                            table, view)) == 0) {
+                report(u"%1: the list %2 is not defined"_s.arg(table, view));
+            }
+        }
+    }
+}
+
+inspection inspector::inspect() {
+    database_.execute_script("BEGIN"); // one moment for all
+    for (const QString& fault : integrity_faults(database_)) {
+        sound_ = false;
+        report(u"damaged: %1"_s.arg(fault));
+    }
+    const QList<QStringList> objects = query_rows(
+        delivered_, u"SELECT name, type FROM sqlite_master WHERE type IN ('table', 'view')"_s);
+    for (const QStringList& object : objects) {
+        attempt([&] { look_for(object.at(0), object.at(1)); });
+    }
+    const QList<QStringList> keys = query_rows(
+        delivered_,
+        u"SELECT m.name, p.name FROM sqlite_master m, pragma_table_info(m.name) p WHERE m.type = 'table' AND p.pk = 1"_s);
+    for (const QStringList& key : keys) {
+        attempt([&] { look_at_key(key.at(0), key.at(1)); });
+    }
+    if (found_.numberings.isEmpty() && sound_) {
+        throw DataError(DataError::Kind::not_a_database, u"it holds no table of this system"_s);
+    }
+    for (const QStringList& object : objects) {
+        if (object.at(1) == u"table") {
+            attempt([&] { look_at_numbers(object.at(0)); });
+        }
+    }
+    for (const reference& checked : references) {
+        attempt([&] { look_at_reference(checked); });
+    }
+    attempt([&] { look_at_parameters(); });
+    attempt([&] { look_at_view_definitions(); });
+    return found_;
+}
+
+} // namespace
+
+inspection inspect(SqliteDatabase& database) {
+    return inspector(database).inspect();
+}
+
+QStringList integrity_faults(SqliteDatabase& database) {
+    try {
+        QStringList faults =
+            query_column(database, u"PRAGMA integrity_check"_s).join(u'\n').split(u'\n');
+        faults.removeAll(u"ok"_s);
+        return faults;
+    } catch (const DataError& error) { // so broken that the check itself gives up
+        if (error.kind() != DataError::Kind::not_a_database) {
+            throw;
+        }
+        return {error.detail()};
+    }
+}

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/data_error.h"
+#include "tools/command.h"
+#include "tools/console.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto& commands() {
+    static const std::array all{check_command(), create_command()};
+    return all;
+}
+
+QString overview() {
+    QString text = u"Usage: smsdb COMMAND …\n\nLooks after the database of an office.\n\n"_s;
+    for (const command& offered : commands()) {
+        text += u"  %1 %2\n"_s.arg(offered.name, -8).arg(offered.summary);
+    }
+    return text +
+           u"\nsmsdb COMMAND --help tells how a command is used; smsdb --version the version.\n"_s;
+}
+
+int run(const command& wanted, const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.addOption(QCommandLineOption(QStringList{u"h"_s, u"help"_s}));
+    parser.addOptions(wanted.options);
+    const bool understood = parser.parse(arguments);
+    if (parser.isSet(u"help"_s)) {
+        print(wanted.help.toString());
+        return exit_status::clean;
+    }
+    const QStringList operands = parser.positionalArguments();
+    const QString advice = u" (see smsdb %1 --help)"_s.arg(wanted.name);
+    if (!understood) {
+        throw failure(parser.errorText() + advice);
+    }
+    if (operands.size() != wanted.operands || operands.contains(QString())) {
+        throw failure(u"%1 takes %2 file name(s)"_s.arg(wanted.name).arg(wanted.operands) + advice);
+    }
+    try {
+        return wanted.run(parser);
+    } catch (const DataError& error) {
+        throw failure(describe(error, operands.first()));
+    }
+}
+
+int run(QStringList arguments) {
+    arguments.removeFirst();
+    const QString name = arguments.value(0);
+    if (name == u"-h" || name == u"--help") {
+        print(overview());
+        return exit_status::clean;
+    }
+    if (name == u"-v" || name == u"--version") {
+        print(u"smsdb %1\n"_s.arg(QString::fromLatin1(SMSDB_VERSION)));
+        return exit_status::clean;
+    }
+    const auto* wanted = std::find_if(commands().begin(), commands().end(),
+                                      [&name](const command& c) { return c.name == name; });
+    if (wanted == commands().end()) {
+        throw failure((name.isEmpty() ? u"no command"_s : u"unknown command: %1"_s.arg(name)) +
+                      u" (see smsdb --help)"_s);
+    }
+    return run(*wanted, arguments);
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    // A limit on the size of files is to be an error like a full disk, not the end.
+    std::signal(SIGXFSZ, SIG_IGN);
+    const QCoreApplication application(argc, argv);
+    try {
+        const int status = run(QCoreApplication::arguments());
+        if (std::fflush(stdout) != 0) {
+            throw failure(u"standard output cannot be written"_s);
+        }
+        return status;
+    } catch (const std::exception& error) {
+        complain(QString::fromUtf8(error.what()));
+        return exit_status::unusable;
+    }
+}
