@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto& commands() {
-    static const std::array all{check_command(), create_command()};
+    static const std::array all{check_command(), create_command(), backup_command()};
     return all;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "data/strconn.h"
+#include "platform/connection.h"
 #include "platform/connection_pool.h"
 #include "tests/support/test_database.h"
 
@@ -66,6 +67,8 @@ private slots:
         refuses("smsdb check DIR/none", u"there is no such file"_s);
         refuses("smsdb check DIR/text", u"is no database"_s);
         refuses("smsdb create DIR/text", u"exists"_s);
+        refuses("smsdb backup FILE FILE --force", u"is the database itself"_s);
+        refuses("smsdb backup FILE DIR/full", u"reading or writing failed"_s);
     }
 
     void answers() {
@@ -82,12 +85,28 @@ private slots:
         QCOMPARE(told_, before);
     }
 
-    void creates() {
-        test_database made;
+    void copies() { // while somebody is writing
+        const QString folder = database_->folder() + u"/副 本"_s;
+        const QString copy = u"'DIR/副 本/sms.old.mdb'"_s;
+        test_database::execute(u"insert into customer (cname) values ('张')"_s);
         const QStringList expected = content();
-        QCOMPARE(run(u"rm FILE; smsdb create FILE"_s), 0);
-        strconn = make_strconn(database_->folder());
+        Connection writing;
+        writing.ConnectionString = strconn;
+        writing.Open();
+        writing.BeginTrans();
+        writing.Execute(u"update customer set cname='later'"_s);
+        QCOMPARE(run(u"mkdir '%1'; smsdb backup FILE "_s.arg(folder) + copy), 0);
+        writing.CommitTrans();
+        QCOMPARE(run(u"smsdb backup FILE "_s + copy), 2);
+        QCOMPARE(run(u"ls -A '%1'; stat -c %a "_s.arg(folder) + copy), 0);
+        QCOMPARE(told_, "sms.old.mdb\n600\n"_qba);
+        strconn = make_strconn(folder);
         QCOMPARE(content(), expected);
+        connection_pool::clear();
+        QCOMPARE(run(u"smsdb backup --force FILE "_s + copy), 0);
+        QCOMPARE(content().last(), u"later"_s);
+        QCOMPARE(run(u"rm %1; smsdb create %1"_s.arg(copy)), 0);
+        QCOMPARE(content(), expected.first(expected.size() - 1));
     }
 };
 

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QLockFile>
+#include <QString>
+
+/// A file in the making. It grows beside its place as PLACE.part and appears there whole, on disk
+/// and readable by its owner alone, or not at all. What a killed run left is made anew.
+class new_file {
+public:
+    enum class Existing { keep, replace };
+
+    /// Throws failure when there is something at `place` that is to be kept, its folder cannot be
+    /// written, or another run is making the same file.
+    explicit new_file(const QString& place, Existing existing = Existing::keep);
+    /// Takes away what was not put in place.
+    ~new_file();
+    Q_DISABLE_COPY_MOVE(new_file)
+
+    /// Where to write the content meanwhile.
+    [[nodiscard]] const QString& path() const { return part_; }
+
+    /// Writes all of the content. Throws failure.
+    void write(const QByteArray& content);
+
+    /// Makes the content durable and moves it to its place, and that too is on disk on return.
+    /// Throws failure, also when something has appeared there that is to be kept.
+    void put_in_place();
+
+private:
+    void remove_parts() const;
+
+    QString place_;
+    QString part_;
+    Existing existing_;
+    QLockFile lock_;
+};
