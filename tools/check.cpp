@@ -20,7 +20,7 @@ every table how many rows it holds, the highest number given out so far and how 
 
   - the file is damaged
   - a table, a view, a column or the definition of a list is missing
-  - 80 % or more of a table's numbers are given out
+  - 80 % or more of a table's numbers are given out (smsdb archive starts those of messages over)
   - a value is no 16-bit number, which no screen can read
   - a row names another that does not exist; 0 stands for none in messages and group sends
   - the gateway parameters are not exactly one row

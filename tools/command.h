@@ -39,3 +39,4 @@ struct command {
 [[nodiscard]] command check_command();
 [[nodiscard]] command create_command();
 [[nodiscard]] command backup_command();
+[[nodiscard]] command archive_command();

@@ -18,7 +18,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto& commands() {
-    static const std::array all{check_command(), create_command(), backup_command()};
+    static const std::array all{check_command(), create_command(), backup_command(),
+                                archive_command()};
     return all;
 }
 

@@ -69,6 +69,10 @@ private slots:
         refuses("smsdb create DIR/text", u"exists"_s);
         refuses("smsdb backup FILE FILE --force", u"is the database itself"_s);
         refuses("smsdb backup FILE DIR/full", u"reading or writing failed"_s);
+        refuses("smsdb archive FILE --before 2023/02/29", u"expected a date"_s);
+        refuses("smsdb archive FILE --before 2024-1-02", u"expected a date"_s);
+        refuses("smsdb archive FILE --before 2024-01-02 --to DIR/text", u"exists"_s);
+        refuses("smsdb archive FILE --before 2024-01-02 --to DIR/full", u"too large"_s);
     }
 
     void answers() {
@@ -107,6 +111,36 @@ private slots:
         QCOMPARE(content().last(), u"later"_s);
         QCOMPARE(run(u"rm %1; smsdb create %1"_s.arg(copy)), 0);
         QCOMPARE(content(), expected.first(expected.size() - 1));
+    }
+
+    void archives() {
+        const QString archive = u"smsdb archive FILE --before 2024/01/31"_s;
+        test_database::execute(u"insert into customer (cname) values ('=张,\"三\"')"_s);
+        test_database::execute(
+            u"insert into sendsms (cid,mobile,sms,sendisok,smsfrom,imsend,rtime,stime) values (0,'1','waits',0,0,0,'2020/01/01','2020/01/01'),(1,'+86139','说\nb',-1,-1,0,'2024/01/30','2024/01/30 23:59:59'),(0,'2','that day',-1,0,0,'','2024/01/31 00:00:00'),(8,'3','=cmd',-1,0,-1,'2024/01/01','2024/1/1'), (0,'4','when?',-1,0,0,'','soon')"_s);
+        test_database::execute(
+            u"insert into recvedsms (mobile,sms,rtime,readed) values ('5','''q''','2024-01-02',1),('6','＠home','2024/01/02',0),('7','new','2024/02/01',0)"_s);
+        QCOMPARE(run(archive), 2);
+        QVERIFY2(told_.contains("is open in a client"), told_);
+        connection_pool::clear();
+        QCOMPARE(run(archive), 0);
+        QVERIFY(told_.contains("time cannot be read, number(s) 3\n"));
+        QVERIFY(told_.contains("next numbers: sendsms 4, recvedsms 2\n"));
+        QCOMPARE(run(u"cat FILE-before-2024-01-31.csv"_s), 0);
+        QCOMPARE(
+            told_,
+            "\ufeff类别,编号,客户编号,客户名称,手机号码,短信,发送时间,录入时间,接收时间,方式,来源,"
+            "已读\r\n"
+            "发送,2,1,\"'=张,\"\"三\"\"\",'+86139,\"说\nb\",2024/01/30 "
+            "23:59:59,2024/01/30,,定时,群发,\r\n"
+            "发送,4,8,,3,'=cmd,2024/1/1,2024/01/01,,立即,单发,\r\n"
+            "接收,1,0,,5,''q',,,2024-01-02,,,√\r\n接收,2,0,,6,'＠home,,,2024/01/02,,,\r\n"_qba);
+        QCOMPARE(run(archive), 0);
+        QVERIFY(told_.contains("nothing to archive\n"));
+        test_database::execute(u"insert into sendsms (sms) values ('next')"_s);
+        QCOMPARE(test_database::rows(u"select smsid,sms from sendsms"_s).join(u' '),
+                 u"1|waits 2|that day 3|when? 4|next"_s);
+        QCOMPARE(test_database::value(u"select max(smsrid) from recvedsms"_s).toInt(), 1);
     }
 };
 
