@@ -11,6 +11,7 @@
 #include "data/schema.h"
 #include "data/strconn.h"
 #include "operators/rsclsuser.h"
+#include "platform/connection_string.h"
 #include "platform/guarded.h"
 #include "platform/settings_store.h"
 
@@ -32,6 +33,7 @@ void wire(Screen& screen, Access& access) {
 
 client::client()
     : windows_(std::make_unique<QMdiArea>()),
+      turn_(data_source(strconn)),
       phrase_screen_(*windows_),
       class_screen_(*windows_),
       customer_screen_(*windows_),
@@ -67,7 +69,8 @@ frmMain& client::open_main_window() {
                                   dispatch_engine::collaborators{.parameters = parameters_,
                                                                  .outgoing = outgoing_,
                                                                  .received = received_,
-                                                                 .queue = queue_});
+                                                                 .queue = queue_,
+                                                                 .turn = &turn_});
     frmSplash splash(main_window_.get());
     splash.show();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // lets the picture appear

@@ -20,6 +20,7 @@
 #include "messaging/vc_recvedsms.h"
 #include "messaging/vc_sendsms.h"
 #include "operators/vc_users.h"
+#include "platform/exclusive_lease.h"
 
 #include <QMdiArea>
 
@@ -50,6 +51,7 @@ private:
     c_gsendsms group_sends_;
     c_recvedsms received_;
     m_sendsmses queue_;
+    exclusive_lease turn_; ///< of all clients on this database, one sends
 
     vc_smsm phrase_screen_;
     vc_cusclass class_screen_;

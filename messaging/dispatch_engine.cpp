@@ -7,6 +7,7 @@
 #include "data/c_recvedsms.h"
 #include "data/c_sendsms.h"
 #include "messaging/gateway_frame.h"
+#include "platform/exclusive_lease.h"
 #include "platform/try_step.h"
 
 namespace {
@@ -40,6 +41,10 @@ void dispatch_engine::StopTomer() {
 }
 
 void dispatch_engine::initsend() {
+    if (!take_turn()) {
+        forget_queue();
+        return;
+    }
     // The link and the queue go on with what there is; the next poll tries again.
     try_step([this] {
         if (!parameters_) {
@@ -49,6 +54,27 @@ void dispatch_engine::initsend() {
     try_step([this] { connect_when_closed(); });
     try_step([this] { used_.outgoing.searchsms(used_.queue); });
     sendsms();
+}
+
+bool dispatch_engine::take_turn() {
+    if (used_.turn == nullptr) {
+        return true;
+    }
+    // A link in error is never opened again. Once the message that was in flight is given up,
+    // nothing can go out from here any more, and another client may go on.
+    if (Winsock1.State() == Winsock::StateEnum::error && sendready_) {
+        used_.turn->release();
+        return false;
+    }
+    return used_.turn->try_take();
+}
+
+/// Another client sends what waits here; only the message in flight is still to be answered.
+void dispatch_engine::forget_queue() {
+    const qsizetype in_flight = sendready_ ? 0 : 1;
+    while (used_.queue.Count() > in_flight) {
+        used_.queue.Remove(used_.queue.Count());
+    }
 }
 
 void dispatch_engine::connect_when_closed() {
@@ -64,7 +90,7 @@ void dispatch_engine::connect_when_closed() {
 
 void dispatch_engine::sendsms() {
     const m_sendsms* first = used_.queue.Item(1);
-    if (!sendready_ || first == nullptr) {
+    if (!sendready_ || first == nullptr || !take_turn()) {
         return;
     }
     sendready_ = false;

@@ -14,10 +14,13 @@
 class c_parameter;
 class c_recvedsms;
 class c_sendsms;
+class exclusive_lease;
 class m_sendsmses;
 
 /// Pushes due messages to the gateway, one at a time: the next goes out when the gateway has
-/// answered or the reply time-out has fired. Stores what the gateway reports as received.
+/// answered or the reply time-out has fired. Stores what the gateway reports as received. Of
+/// several clients on one database, the one whose turn it is does all this; the others ask at every
+/// poll.
 class dispatch_engine : public QObject {
     Q_OBJECT
 
@@ -28,6 +31,7 @@ public:
         const c_sendsms& outgoing;
         const c_recvedsms& received;
         m_sendsmses& queue;
+        exclusive_lease* turn = nullptr; ///< without one, it is always this client's turn
     };
 
     explicit dispatch_engine(const collaborators& used, QObject* parent = nullptr);
@@ -52,6 +56,8 @@ public:
     Winsock Winsock1;
 
 private:
+    [[nodiscard]] bool take_turn();
+    void forget_queue();
     void connect_when_closed();
     void Timer2_Timer();
     void Winsock1_DataArrival();

@@ -6,6 +6,7 @@
 #include "data/c_sendsms.h"
 #include "data/strconn.h"
 #include "messaging/dispatch_engine.h"
+#include "platform/exclusive_lease.h"
 #include "tests/messaging/scripted_gateway.h"
 #include "tests/support/test_database.h"
 
@@ -26,7 +27,10 @@ struct stage : test_database {
     c_sendsms outgoing;
     c_recvedsms received;
     m_sendsmses queue;
-    dispatch_engine engine{{parameters, outgoing, received, queue}};
+    exclusive_lease turn{path()};
+    std::optional<exclusive_lease> colleague; ///< another client's
+    QDateTime clock = system_clock();
+    dispatch_engine engine{{parameters, outgoing, received, queue, &turn}};
     QSignalSpy arrivals{&engine.Winsock1, &Winsock::DataArrival};
     QStringList expected_frames;
     int expected_connections = 0;
@@ -46,6 +50,23 @@ struct stage : test_database {
         {u"otherport"_s, [] { set_port(1); }},
         {u"edit2"_s, [] { execute(u"update sendsms set sms = 'new' where smsid = 2"_s); }},
         {u"delete3"_s, [] { execute(u"delete from sendsms where smsid = 3"_s); }},
+        {u"taken"_s, [this] { QVERIFY(colleague.emplace(linked_path()).try_take()); }},
+        {u"mine"_s, [this] { QVERIFY(!colleague.emplace(linked_path()).try_take()); }},
+        {u"died"_s, [this] { colleague.reset(); }},
+        {u"leaseless"_s, [this] { QVERIFY(QFile::remove(path() + u"-lease"_s)); }},
+        {u"nothing"_s,
+         [this] {
+             QCOMPARE(engine.Winsock1.State(),
+                      expected_connections == 0 ? state::closed : state::connected);
+             QVERIFY(outcome().endsWith(u", 0 left, idle"_s));
+         }},
+        {u"day+"_s, [this] { clock = clock.addDays(1); }},
+        {u"hour-"_s, [this] { clock = clock.addSecs(-3600); }},
+        {u"tomorrow"_s,
+         [this] {
+             execute(u"insert into sendsms (mobile, sms, stime) values ('13912345678', 'later', "
+                     "'%1')"_s.arg(fmtdatetime(clock.addDays(1).addSecs(-1))));
+         }},
         {u"big"_s, [] { execute(u"insert into sendsms (smsid, stime) values (40000, '2025')"_s); }},
         {u"lock1"_s, [] {
              execute(u"create trigger lock before update on sendsms when old.smsid = 1 "
@@ -53,9 +74,16 @@ struct stage : test_database {
          }}};
 
     stage() {
+        outgoing.now = [this] { return clock; };
         parameters.connection = outgoing.connection = received.connection = strconn;
         gateway.listen();
         set_port(gateway.port());
+    }
+
+    /// Another name of the database, as a colleague may use it.
+    [[nodiscard]] QString linked_path() const {
+        QFile::link(path(), folder() + u"/link.mdb"_s);
+        return folder() + u"/link.mdb"_s;
     }
 
     static void set_port(quint16 port) {
@@ -152,6 +180,20 @@ private slots:
         row("mark fails", u"poll linked a b poll >a lock1 <1 >b poll <1 >a"_s,
             u"0 -1, 1 left, in flight"_s);
         row("search fails", u"poll linked a b big poll >a <1 >b <1"_s, u"-1 -1 0, 0 left, idle"_s);
+        row("a colleague's turn",
+            u"taken a poll nothing died poll linked timeout poll >a mine <1"_s,
+            u"-1, 0 left, idle"_s);
+        row("stuck link gives way", u"shut a b poll refused poll mine timeout taken poll"_s,
+            u"0 0, 0 left, idle"_s);
+        row("stuck link stands back", u"shut a poll refused timeout poll taken died poll taken"_s,
+            u"0, 0 left, idle"_s);
+        row("idle stuck link", u"shut poll refused poll taken a poll"_s, u"0, 0 left, idle"_s);
+        row("lease deleted",
+            u"poll linked a b poll >a leaseless taken poll <1 poll edit2 died poll >new"_s,
+            u"-1 0, 1 left, in flight"_s);
+        row("clock",
+            u"tomorrow poll linked hour- poll day+ poll nothing day+ poll >later hour- a <1 poll >a <1"_s,
+            u"-1 -1, 0 left, idle"_s);
     }
 
     void plays() {

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class SqliteDatabase;
+
+/// The right to be the only one, of all programs that use the same file, to do some work on it. The
+/// holder locks an empty file of its own beside the guarded one ("-lease" behind its name), never
+/// the guarded file itself. The operating system takes the lock back when the process ends, however
+/// it ends. The empty file stays: two programs that remove and make it could each lock their own.
+class exclusive_lease {
+public:
+    /// Links to one file share its lease. The file need not exist yet.
+    explicit exclusive_lease(QString guarded_file);
+    ~exclusive_lease();
+    Q_DISABLE_COPY_MOVE(exclusive_lease)
+
+    /// Takes the lease unless another has it, and never waits; true when it is held now. False too
+    /// where the guarded file is missing or the empty one cannot be made or written.
+    [[nodiscard]] bool try_take();
+    void release();
+
+private:
+    QString guarded_file_;
+    std::unique_ptr<SqliteDatabase> lock_; ///< has its write lock while the lease is held
+};
