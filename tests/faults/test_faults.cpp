@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "data/strconn.h"
+#include "tests/faults/workplace.h"
+
+#include <QRandomGenerator>
+
+using namespace Qt::StringLiterals;
+
+/// The client beside neighbours that fail, in real processes. SMSCRM_FAULTS_SCALE makes the runs
+/// longer; SMSCRM_FAULTS_SEED repeats the chances of one.
+class test_faults : public QObject {
+    Q_OBJECT
+
+    const QString saved_ = u"保存成功|成功创建一个短语信息，继续创建吗？ "_s;
+    const QString refused_ = u"不能保存 |输入错误，不能保存短语信息，请检查！"_s;
+    const int scale_ = qMax(1, qEnvironmentVariableIntValue("SMSCRM_FAULTS_SCALE"));
+    QRandomGenerator chance_;
+
+private slots:
+    void initTestCase() {
+        const QByteArray given = qgetenv("SMSCRM_FAULTS_SEED");
+        const uint seed = given.isEmpty() ? QRandomGenerator::global()->generate() : given.toUInt();
+        qInfo("SMSCRM_FAULTS_SEED=%u", seed);
+        chance_.seed(seed);
+    }
+
+    void killed_while_sending_data() {
+        QTest::addColumn<int>("clients");
+        QTest::newRow("one client") << 1;
+        QTest::newRow("two clients") << 2;
+    }
+
+    void killed_while_sending() {
+        QFETCH(int, clients);
+        workplace w(1000 * scale_);
+        for (int i = 0; i < clients; ++i) { // whoever sends, all can work
+            process& client = w.start_client({u"好"_s});
+            QVERIFY(client.says(u"typed"_s));
+            client.write("\n");
+            QVERIFY(client.says(saved_));
+        }
+        while (w.kills < 10 * scale_) {
+            QVERIFY(w.progress(chance_.bounded(4))); // now and then already while it starts
+            w.clients.front().waitForFinished(1 + chance_.bounded(100));
+            w.clients.back().signal(SIGSTOP); // or what it sends could come before the stroke
+            w.kills += w.clients.front().end();
+            w.clients.pop_front();
+            w.mark_stroke();
+            if (clients > 1) {
+                w.clients.back().signal(SIGCONT);
+                QVERIFY(w.progress()); // goes on in the place of the other
+            }
+            QVERIFY(w.is_sound());
+            w.start_client();
+        }
+        QVERIFY(w.finish());
+        QCOMPARE(w.needlessly_repeated(), QStringList());
+        QCOMPARE(w.starts, w.kills + clients);
+    }
+
+    void killed_while_writing_data() {
+        QTest::addColumn<QString>("begins");
+        QTest::addColumn<QString>("constant"); // the same after every job that is done or left out
+        QTest::newRow("group")
+            << u"logged in"_s
+            << u"select count(*) - 5000 * (select count(*) from gsendsms) from sendsms"_s;
+        QTest::newRow("start") << u"begin"_s << u"select count(*) from viewitems"_s;
+    }
+
+    void killed_while_writing() {
+        QFETCH(QString, begins);
+        QFETCH(QString, constant);
+        const auto job = QString::fromLatin1(QTest::currentDataTag());
+        workplace w(0);
+        w.execute(u"insert into customer (mobile) with recursive n(i) as "
+                  "(values (1) union all select i + 1 from n where i < 5000) select i from n"_s);
+        const QVariant expected = w.value(constant);
+        for (int i = 0; i < 10 * scale_; ++i) {
+            const QTemporaryDir fresh;
+            const QString folder = job == u"start" ? fresh.path() : w.folder();
+            connection_pool::clear();
+            process struck(u"/fault_client"_s, {folder, job});
+            QVERIFY(struck.says(begins));
+            w.kills += struck.end(1 + chance_.bounded(120));
+            QVERIFY(process(u"/fault_client"_s, {folder, job}).says(u"done"_s));
+            strconn = make_strconn(folder);
+            QVERIFY(w.is_sound());
+            QCOMPARE(w.value(constant), expected);
+            w.execute(u"delete from sendsms"_s);
+            w.execute(u"delete from gsendsms"_s);
+        }
+    }
+
+    void a_save_in_trouble_data() {
+        QTest::addColumn<int>("lasts_ms"); // or until the client says something
+        QTest::addColumn<int>("least_refusals");
+        QTest::addColumn<int>("most_refusals");
+        QTest::newRow("locked for 1 s") << 1'000 << 0 << 0;
+        QTest::newRow("locked for 2 s") << 2'000 << 0 << 1;
+        QTest::newRow("locked for 10 s") << 10'000 << 1 << 1;
+        QTest::newRow("disk full") << 10'000 << 1 << 1'000;
+    }
+
+    void a_save_in_trouble() {
+        QFETCH(int, lasts_ms);
+        workplace w(0);
+        process& client = w.start_client({u"好"_s});
+        QVERIFY(client.says(u"typed"_s));
+        w.trouble(QTest::currentDataTag(), true);
+        client.write("\n");
+        QString told = client.line(lasts_ms);
+        w.trouble(QTest::currentDataTag(), false);
+        int refusals = 0;
+        for (told = told.isEmpty() ? client.line() : told; told == refused_; told = client.line()) {
+            ++refusals;
+        }
+        QCOMPARE(told, saved_);
+        QFETCH(int, least_refusals);
+        QFETCH(int, most_refusals);
+        QVERIFY(refusals >= least_refusals && refusals <= most_refusals);
+        QCOMPARE(w.rows(u"select text from smsmodels"_s), QStringList(u"好"_s));
+        QVERIFY(w.is_sound());
+    }
+
+    void sends_on_data() {
+        QTest::addColumn<QString>("gateway_options");
+        QTest::addColumn<QString>("timeout_ms");
+        QTest::addColumn<int>("troubles");
+        QTest::addColumn<int>("messages_meanwhile");
+        QTest::newRow("gateway killed") << u"--delay 2"_s << u"10000"_s << 5 << 0;
+        QTest::newRow("disk full") << u"--delay 2"_s << u"10000"_s << 5 << 20;
+        QTest::newRow("locked") << u"--delay 2"_s << u"10000"_s << 1 << 2;
+        QTest::newRow("answers missing") << u"--drop-rate 0.1"_s << u"200"_s << 0 << 0;
+        QTest::newRow("answers late") << u"--delay 150"_s << u"100"_s << 0 << 0;
+    }
+
+    void sends_on() {
+        QFETCH(QString, gateway_options);
+        QFETCH(QString, timeout_ms);
+        QFETCH(int, troubles);
+        QFETCH(int, messages_meanwhile);
+        workplace w(100 * scale_, gateway_options, timeout_ms);
+        w.start_client();
+        for (int i = 0; i < troubles * scale_; ++i) {
+            QVERIFY(w.progress(1 + chance_.bounded(20)));
+            w.trouble(QTest::currentDataTag(), true);
+            QVERIFY(w.progress(messages_meanwhile));
+            w.trouble(QTest::currentDataTag(), false);
+        }
+        QVERIFY(w.finish());
+        // Each time the gateway was gone, one answer was lost and the link perhaps for good.
+        QVERIFY(w.starts <= w.kills + 1 && (w.kills == 0 || w.repeated() <= w.kills));
+    }
+};
+
+QTEST_GUILESS_MAIN(test_faults)
+#include "test_faults.moc"
