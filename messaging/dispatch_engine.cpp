@@ -60,11 +60,13 @@ bool dispatch_engine::take_turn() {
     if (used_.turn == nullptr) {
         return true;
     }
-    // A link in error is never opened again. Once the message that was in flight is given up,
-    // nothing can go out from here any more, and another client may go on.
-    if (Winsock1.State() == Winsock::StateEnum::error && sendready_) {
-        used_.turn->release();
-        return false;
+    // A link in error is never opened again. What is tried on it reaches nobody; once the message
+    // that was in flight is given up, another client may send.
+    if (Winsock1.State() == Winsock::StateEnum::error) {
+        if (sendready_) {
+            used_.turn->release();
+        }
+        return true;
     }
     return used_.turn->try_take();
 }

@@ -184,10 +184,10 @@ private slots:
             u"taken a poll nothing died poll linked timeout poll >a mine <1"_s,
             u"-1, 0 left, idle"_s);
         row("stuck link gives way", u"shut a b poll refused poll mine timeout taken poll"_s,
-            u"0 0, 0 left, idle"_s);
+            u"0 0, 2 left, in flight"_s);
         row("stuck link stands back", u"shut a poll refused timeout poll taken died poll taken"_s,
-            u"0, 0 left, idle"_s);
-        row("idle stuck link", u"shut poll refused poll taken a poll"_s, u"0, 0 left, idle"_s);
+            u"0, 1 left, in flight"_s);
+        row("idle stuck link", u"shut poll refused poll taken a poll"_s, u"0, 1 left, in flight"_s);
         row("lease deleted",
             u"poll linked a b poll >a leaseless taken poll <1 poll edit2 died poll >new"_s,
             u"-1 0, 1 left, in flight"_s);
