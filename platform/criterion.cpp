@@ -55,7 +55,7 @@ Criterion::Criterion(const QString& text, const RowStore& store) {
 bool Criterion::matches(const RowStore& store, qsizetype row) const {
     switch (store.type(row, column_)) {
     case RowStore::Type::text:
-        return matches_text(store.utf8(row, column_));
+        return matches_text(store.text(row, column_));
     case RowStore::Type::integer:
         return number_ && static_cast<double>(store.integer(row, column_)) == *number_;
     case RowStore::Type::real:
@@ -66,8 +66,7 @@ bool Criterion::matches(const RowStore& store, qsizetype row) const {
     return false;
 }
 
-bool Criterion::matches_text(QByteArrayView utf8) const {
-    const QString text = QString::fromUtf8(utf8);
+bool Criterion::matches_text(const QString& text) const {
     // Shown dates and stored ones differ in their marks; both name the same moment.
     if (moment_.isValid()) {
         return read_datetime(text) == moment_;

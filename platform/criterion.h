@@ -18,7 +18,7 @@ public:
     [[nodiscard]] bool matches(const RowStore& store, qsizetype row) const;
 
 private:
-    [[nodiscard]] bool matches_text(QByteArrayView utf8) const;
+    [[nodiscard]] bool matches_text(const QString& text) const;
 
     qsizetype column_ = -1;
     QString value_;

@@ -8,6 +8,16 @@
 #include <algorithm>
 #include <bit>
 
+namespace {
+
+/// A byte order mark at the start is a character like any other here; the toolkit would drop it.
+QString to_text(QByteArrayView utf8) {
+    const QString text = QString::fromUtf8(utf8);
+    return utf8.startsWith("\xEF\xBB\xBF") ? QChar(QChar::ByteOrderMark) + text : text;
+}
+
+} // namespace
+
 qsizetype RowStore::column(QStringView name) const {
     const auto found =
         std::find_if(columns_.begin(), columns_.end(), [name](const QString& column) {
@@ -64,7 +74,7 @@ QByteArrayView RowStore::utf8(qsizetype row, qsizetype column) const {
 QString RowStore::text(qsizetype row, qsizetype column) const {
     switch (type(row, column)) {
     case Type::text:
-        return QString::fromUtf8(utf8(row, column));
+        return to_text(utf8(row, column));
     case Type::integer:
         return QString::number(integer(row, column));
     case Type::real:
