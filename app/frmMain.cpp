@@ -81,6 +81,7 @@ frmMain::frmMain(std::unique_ptr<QMdiArea> windows, const controllers& opened,
     auto* first_panel = new QLabel(this);
     sbStatusBar->addWidget(first_panel, 1);
     operator_panel_->setObjectName(u"Panel2"_s);
+    operator_panel_->setTextFormat(Qt::PlainText); // a name with "<" is no markup
     sbStatusBar->addPermanentWidget(operator_panel_);
 
     restore_placement(*this);
