@@ -156,7 +156,6 @@ void edit_dialog::add_note(const QString& name, const QPlainTextEdit& box,
                            std::function<QString(const QString&)> tell) {
     auto* note = new QLabel(tell({}), this);
     note->setObjectName(name);
-    note->setForegroundRole(QPalette::PlaceholderText);
     auto* row = new QHBoxLayout; // a row like the others
     row->addWidget(note);
     form_->addRow(static_cast<QWidget*>(nullptr), row);

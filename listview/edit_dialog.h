@@ -40,7 +40,7 @@ protected:
     QLineEdit* add_line(const QString& name, const QString& label, QString& field);
     /// A box of several lines.
     QPlainTextEdit* add_text(const QString& name, const QString& label, QString& field);
-    /// A quiet line below the row added last that tells something about a box's text.
+    /// A line below the row added last that tells something about a box's text.
     void add_note(const QString& name, const QPlainTextEdit& box,
                   std::function<QString(const QString&)> tell);
     /// A check box with a caption of its own; checked is -1, else 0.
