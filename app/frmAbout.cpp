@@ -71,8 +71,8 @@ frmAbout::frmAbout(const Registry& registry, QWidget* parent)
     auto* cmdSysInfo = new QPushButton(u"&系统信息..."_s);
     cmdSysInfo->setObjectName(u"cmdSysInfo"_s);
     cmdSysInfo->setAutoDefault(false);
-    layout->addWidget(cmdOK, 8, 2, Qt::AlignRight);
-    layout->addWidget(cmdSysInfo, 9, 2, Qt::AlignRight);
+    layout->addWidget(cmdOK, 8, 2);
+    layout->addWidget(cmdSysInfo, 9, 2);
     layout->setColumnStretch(1, 1);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmdSysInfo, &QPushButton::clicked, this, guarded([this] { StartSysInfo(); }));
