@@ -5,6 +5,7 @@
 
 #include "platform/twips.h"
 
+#include <QFontInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMetaMethod>
@@ -49,7 +50,7 @@ DataGrid::DataGrid(QWidget* parent) : QTableView(parent) {
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
     // A width is kept as a 16-bit number of twips: a column cannot be dragged wider than that.
-    horizontalHeader()->setMaximumSectionSize(std::numeric_limits<qint16>::max() * logicalDpiX() /
+    horizontalHeader()->setMaximumSectionSize(std::numeric_limits<qint16>::max() * resolution() /
                                               twips::per_inch);
 }
 
@@ -61,7 +62,7 @@ void DataGrid::set_columns(const QList<grid_column>& columns) {
 void DataGrid::apply_widths() {
     for (int i = 0; i < model_.columnCount(); ++i) {
         const grid_column& column = model_.columns().at(i);
-        const int width = twips::to_pixels(column.width_twips, logicalDpiX());
+        const int width = twips::to_pixels(column.width_twips, resolution());
         setColumnWidth(i, width > 0 ? width : horizontalHeader()->defaultSectionSize());
         setColumnHidden(i, !column.visible);
     }
@@ -99,7 +100,12 @@ QString DataGrid::text(int column) const {
 }
 
 int DataGrid::width_twips(int column) const {
-    return twips::from_pixels(columnWidth(column), logicalDpiX());
+    return twips::from_pixels(columnWidth(column), resolution());
+}
+
+int DataGrid::resolution() const {
+    constexpr double usual_size = 9; // points; what the widths that are delivered have room for
+    return qRound(logicalDpiX() * qMax(QFontInfo(font()).pointSizeF() / usual_size, 1.0));
 }
 
 void DataGrid::keyPressEvent(QKeyEvent* event) {

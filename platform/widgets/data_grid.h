@@ -42,6 +42,8 @@ protected:
 
 private:
     void apply_widths();
+    /// Dots per inch of a column's width: larger text gets wider columns.
+    [[nodiscard]] int resolution() const;
 
     RecordsetModel model_;
     Recordset* rows_ = nullptr;
