@@ -79,6 +79,7 @@ void add_button(QToolBar& toolbar, const button& shown, const QIcon& icon) {
     const QString caption = shown.caption.toString();
     QAction* action = toolbar.addAction(icon, caption);
     action->setObjectName(shown.key);
+    toolbar.widgetForAction(action)->setFocusPolicy(Qt::TabFocus); // not all have a shortcut
     if (!shown.shortcut.isEmpty()) {
         action->setShortcut(QKeySequence(shown.shortcut.toString()));
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
