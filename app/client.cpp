@@ -14,6 +14,7 @@
 #include "platform/connection_string.h"
 #include "platform/guarded.h"
 #include "platform/settings_store.h"
+#include "platform/widgets/readable_style.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -101,6 +102,7 @@ std::optional<int> start_session(const QString& directory) {
 }
 
 void set_up_toolkit() {
+    QApplication::setStyle(new readable_style);
     QApplication::setWindowIcon(QIcon(u":/smscrm.svg"_s));
     auto* chinese = new QTranslator(QCoreApplication::instance());
     if (chinese->load(u":/translations/qtbase_zh_CN.qm"_s)) {
