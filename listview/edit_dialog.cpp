@@ -180,7 +180,6 @@ QPushButton* edit_dialog::add_picker_button(const QString& name, QWidget& box,
     button->setAutoDefault(false);
     button->setFixedWidth(button->fontMetrics().averageCharWidth() * 6);
     row_of(box).addWidget(button, 0, Qt::AlignTop);
-    setTabOrder(&box, button);
     return button;
 }
 
