@@ -1,16 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "app/frmLogin.h"
-#include "app/frmserver.h"
 #include "directory/FrmParameter.h"
-#include "listview/frmFind.h"
-#include "listview/frmSort.h"
 #include "listview/frmref.h"
-#include "operators/frmuser.h"
 #include "tests/screens/screen_fixture.h"
-
-#include <QAbstractButton>
 
 using namespace Qt::StringLiterals;
 
@@ -47,26 +40,6 @@ void expect_refusal(const QString& text, const QString& title = u"输入错误"_
 
 void expect_question(const QString& text, QMessageBox::StandardButton button) {
     person::expect_box(u"保存成功"_s, text, button, QMessageBox::NoIcon);
-}
-
-/// Whoever cannot see a dialog or has no mouse needs names, room, and a road from top to bottom.
-void check_order(QDialog&& dialog) {
-    dialog.show();
-    QRect last;
-    for (QWidget* box = dialog.nextInFocusChain(); box != &dialog; box = box->nextInFocusChain()) {
-        if (!box->isVisible() || (box->focusPolicy() & Qt::TabFocus) == 0) {
-            continue;
-        }
-        const auto* button = qobject_cast<QAbstractButton*>(box);
-        const QString text = button == nullptr ? QString() : button->text();
-        const QRect place(box->mapTo(&dialog, QPoint()), box->size());
-        QVERIFY2(!box->objectName().isEmpty() && !(box->accessibleName() + text).isEmpty() &&
-                     box->width() > box->fontMetrics().horizontalAdvance(text) &&
-                     dialog.rect().contains(place) && place.bottom() >= last.top(),
-                 qPrintable(dialog.windowTitle() + u' ' + box->objectName()));
-        last = place;
-    }
-    QVERIFY(last.isValid());
 }
 
 } // namespace
@@ -269,25 +242,6 @@ private slots:
         person::expect_box(u"删除成功"_s, u"成功删除短信"_s);
         person::click(list, u"Delete"_s);
         QVERIFY(test_database::rows(u"select * from recvedsms"_s).isEmpty());
-    }
-
-    void are_named_and_in_order() {
-        spListHeaders columns = make_picker_columns(u"常用语"_s, {}, {{u"mid", u"编号", 900}});
-        Recordset rows;
-        vc_parameter nothing_to_pick;
-        check_order(frmSmsm());
-        check_order(frmCustomer());
-        check_order(FrmParameter());
-        check_order(frmCusclass());
-        check_order(frmGroup(nothing_to_pick, nothing_to_pick));
-        check_order(frmGsendsms(nothing_to_pick, nothing_to_pick, system_clock));
-        check_order(frmSendsms(nothing_to_pick, nothing_to_pick, system_clock));
-        check_order(frmLogin());
-        check_order(frmserver());
-        check_order(frmuser());
-        check_order(frmFind(columns));
-        check_order(frmSort(columns));
-        check_order(frmref(columns, rows));
     }
 };
 

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "app/frmAbout.h"
+#include "app/frmLogin.h"
+#include "app/frmserver.h"
+#include "directory/FrmParameter.h"
+#include "listview/frmFind.h"
+#include "listview/frmSetList.h"
+#include "listview/frmSort.h"
+#include "listview/frmconduser.h"
+#include "listview/frmref.h"
+#include "operators/frmRights.h"
+#include "operators/frmuser.h"
+#include "tests/screens/screen_fixture.h"
+
+#include <QHeaderView>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// No two captions may ask for the same Alt key.
+template <class Item>
+void check_keys(const QList<Item*>& items) {
+    QSet<QKeySequence> keys;
+    for (const QObject* item : items) {
+        const auto key = QKeySequence::mnemonic(item->property("text").toString());
+        QVERIFY2(!keys.contains(key), qPrintable(key.toString()));
+        keys += key.isEmpty() ? QSet<QKeySequence>() : QSet{key};
+    }
+}
+
+/// Whoever cannot see a window or has no mouse needs names, and a road as one reads.
+void check_road(const QWidget& window, const QWidget& start) {
+    QRect last;
+    for (QWidget* box = start.nextInFocusChain(); box != &start; box = box->nextInFocusChain()) {
+        if (window.isAncestorOf(box) && box->isVisible() && (box->focusPolicy() & Qt::TabFocus)) {
+            const QRect place(box->mapTo(&window, QPoint()), box->size());
+            QVERIFY2(window.rect().contains(place) && place.bottom() >= last.top() &&
+                         (place.top() > last.bottom() || place.left() > last.right()) &&
+                         (box->inherits("QAbstractButton") || !box->accessibleName().isEmpty()),
+                     qPrintable(window.windowTitle() + u' ' + box->objectName()));
+            last = place;
+        }
+    }
+    QVERIFY(last.isValid());
+}
+
+/// Every text has room and stands out.
+void check_texts(const QWidget& window) {
+    const QWidgetList widgets = window.findChildren<QWidget*>();
+    check_keys(widgets);
+    for (const QWidget* box : widgets) {
+        const QString text = box->property("text").toString();
+        const QSize needed = box->inherits("QLabel")
+                                 ? box->minimumSizeHint()
+                                 : box->fontMetrics().size(Qt::TextShowMnemonic, text);
+        const int contrast = box->palette().color(box->foregroundRole()).lightness() -
+                             box->palette().color(box->backgroundRole()).lightness();
+        const bool fits = text.isEmpty() || needed.boundedTo(box->size()) == needed;
+        QVERIFY2((fits && contrast > 150) || !box->isVisible(), qPrintable(text));
+    }
+    for (const auto* grid : window.findChildren<DataGrid*>()) {
+        for (int i = 0; i < grid->model()->columnCount(); ++i) {
+            const QString text = grid->model()->index(0, i).data().toString();
+            const int needed = qMax(grid->fontMetrics().horizontalAdvance(text),
+                                    grid->horizontalHeader()->sectionSizeHint(i));
+            QVERIFY2(grid->isColumnHidden(i) || grid->columnWidth(i) > needed, qPrintable(text));
+        }
+    }
+}
+
+void check_dialog(QDialog&& dialog) {
+    dialog.show();
+    check_road(dialog, dialog);
+    check_texts(dialog);
+    auto buttons = dialog.findChildren<QPushButton*>(); // the rights editor has none
+    QVERIFY(buttons.isEmpty() || buttons.removeIf([](auto* one) { return one->isDefault(); }) == 1);
+    person::press_key(dialog, Qt::Key_Escape);
+    QVERIFY2(!dialog.isVisible(), qPrintable(dialog.windowTitle()));
+}
+
+} // namespace
+
+/// What every window and dialog owes whoever reads it, in the colours of a dark desktop.
+class test_looks : public QObject {
+    Q_OBJECT
+
+private slots:
+    void reads_well_data() {
+        QTest::addColumn<int>("points");
+        QTest::newRow("small text") << 9;
+        QTest::newRow("large text") << 14;
+    }
+
+    void reads_well() {
+        QFETCH(const int, points);
+        QApplication::setFont(QFont(QApplication::font().family(), points));
+        QPalette dark(QColor(0x31363b));
+        dark.setColor(QPalette::PlaceholderText, Qt::black); // some desktops leave it so
+        QApplication::setPalette(dark);
+
+        screen_fixture program;
+        test_database::execute(
+            u"insert into sendsms values (1, '13912345678', '好', 0, 0, 0, 0, '2024/01/31 08:00:00', '2024/01/31 08:00:00')"_s);
+        const QIcon arrow =
+            QApplication::style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+        const QImage on_black = arrow.pixmap(16).toImage().convertToFormat(QImage::Format_RGB32);
+        const QImage drawn = on_black.convertToFormat(QImage::Format_Indexed8);
+        QVERIFY(drawn.colorTable().contains(dark.windowText().color().rgb()));
+        for (const QWidget* menu : program.window.findChildren<QWidget*>()) {
+            check_keys(menu->actions());
+        }
+        for (const auto& item :
+             {u"mnuSysUSer"_s, u"mnucusclass"_s, u"mnuProject"_s, u"mnugroup"_s, u"mnuCreTech"_s,
+              u"mnusend"_s, u"mnuTIMEC"_s, u"mnunewcustomer"_s}) {
+            const frmdatagrid& list = program.list(item);
+            QCoreApplication::processEvents(); // the tool bar puts its buttons in place
+            check_road(list, grid_of(list));   // which has the focus
+            check_texts(list);
+        }
+
+        spListHeaders columns = make_picker_columns(u"常用语"_s, {}, {{u"mid", u"编号", 900}});
+        Recordset rows;
+        vc_parameter none;
+        const auto check = [](auto&&... dialogs) { (check_dialog(std::move(dialogs)), ...); };
+        check(frmSmsm(), frmCustomer(), FrmParameter(), frmCusclass(), frmGroup(none, none),
+              frmGsendsms(none, none, system_clock), frmSendsms(none, none, system_clock),
+              frmLogin(), frmserver(), frmuser(), frmFind(columns), frmSort(columns),
+              frmref(columns, rows), frmSetList(columns), frmconduser({}, none), frmRights(),
+              frmAbout(*system_registry()));
+    }
+};
+
+QTEST_MAIN(test_looks)
+#include "test_looks.moc"
