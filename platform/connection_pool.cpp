@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QPointer>
 #include <QTimer>
 
 #include <vector>
@@ -21,19 +22,22 @@ QHash<QString, std::shared_ptr<idle_list>>& idle_connections() {
     return connections;
 }
 
-/// Long enough that a run of messages or saves hardly pays for it.
+/// Every write starts the count anew. A log that is folded in the midst of a run of messages must
+/// grow from nothing again, and a growing file makes each commit dearer.
 constexpr int fold_delay_ms = 1000;
 
 void fold_logs_later() {
-    static bool scheduled = false;
-    if (scheduled || QCoreApplication::instance() == nullptr) {
+    QCoreApplication* application = QCoreApplication::instance();
+    if (application == nullptr) {
         return;
     }
-    scheduled = true;
-    QTimer::singleShot(fold_delay_ms, QCoreApplication::instance(), [] {
-        scheduled = false;
-        connection_pool::fold_logs();
-    });
+    static QPointer<QTimer> pause;
+    if (pause == nullptr) {
+        pause = new QTimer(application);
+        pause->setSingleShot(true);
+        pause->callOnTimeout(&connection_pool::fold_logs);
+    }
+    pause->start(fold_delay_ms);
 }
 
 /// Back into the idle list; a connection that cannot be brought back to rest is closed instead.
