@@ -5,8 +5,6 @@
 
 #include "platform/data_error.h"
 
-#include <QRegularExpression>
-
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -16,6 +14,48 @@ namespace {
 [[noreturn]] void refuse(const QVariant& value, const QString& wanted) {
     throw DataError(DataError::Kind::conversion,
                     u"\"%1\" is not %2"_s.arg(value.toString().left(40), wanted));
+}
+
+/// What a pattern's \s stands for.
+bool is_blank(QChar c) {
+    return c == u' ' || (c >= u'\t' && c <= u'\r');
+}
+
+void skip(QStringView& rest, bool (*skipped)(QChar)) {
+    while (!rest.isEmpty() && skipped(rest.front())) {
+        rest = rest.sliced(1);
+    }
+}
+
+bool take(QStringView& rest, char16_t mark) {
+    const bool there = rest.startsWith(mark);
+    rest = rest.sliced(there ? 1 : 0);
+    return there;
+}
+
+/// Between `least` and `most` digits from the front; nothing when they are not there.
+std::optional<int> take_number(QStringView& rest, qsizetype least, qsizetype most) {
+    int number = 0;
+    qsizetype count = 0;
+    while (count < qMin(most, rest.size()) && rest[count] >= u'0' && rest[count] <= u'9') {
+        number = number * 10 + (rest[count].unicode() - u'0');
+        ++count;
+    }
+    rest = rest.sliced(count);
+    return count < least ? std::nullopt : std::optional(number);
+}
+
+/// A mark and one or two digits; -1, which no date and no time has, when they are not there.
+int take_part(QStringView& rest, char16_t mark) {
+    return take(rest, mark) ? take_number(rest, 1, 2).value_or(-1) : -1;
+}
+
+/// Hours, minutes and perhaps seconds; an invalid time when they are not there.
+QTime take_time(QStringView& rest) {
+    const int hour = take_number(rest, 1, 2).value_or(-1);
+    const int minute = take_part(rest, u':');
+    const int second = rest.startsWith(u':') ? take_part(rest, u':') : 0;
+    return {hour, minute, second};
 }
 
 } // namespace
@@ -63,17 +103,31 @@ QString to_text(const QVariant& value) {
     return value.toString();
 }
 
-QDateTime read_datetime(QStringView text) {
-    static const QRegularExpression pattern(
-        uR"(^\s*([0-9]{4})([/-])([0-9]{1,2})\2([0-9]{1,2})(?:[ T]+([0-9]{1,2}):([0-9]{1,2})(?::([0-9]{1,2}))?)?\s*$)"_s);
-    const auto match = pattern.match(text.toString());
-    if (!match.hasMatch()) {
-        return {};
+// By hand and not by a regular expression: a search reads every row's moment.
+std::optional<wall_time> read_wall_time(QStringView text) {
+    skip(text, is_blank);
+    const int year = take_number(text, 4, 4).value_or(0); // there is no such year
+    const char16_t mark = text.startsWith(u'-') ? u'-' : u'/';
+    const int month = take_part(text, mark);
+    const int day = take_part(text, mark);
+    const QDate date(year, month, day);
+    QTime time(0, 0);
+    if (text.startsWith(u' ') || text.startsWith(u'T')) {
+        QStringView rest = text;
+        skip(rest, [](QChar c) { return c == u' ' || c == u'T'; });
+        if (!rest.isEmpty() && !is_blank(rest.front())) {
+            time = take_time(rest);
+            text = rest;
+        }
     }
-    const auto part = [&match](int group) { return match.capturedView(group).toInt(); };
-    const QDate date(part(1), part(3), part(4));
-    const QTime time(part(5), part(6), part(7));
-    return date.isValid() && time.isValid() ? QDateTime(date, time) : QDateTime();
+    skip(text, is_blank);
+    return text.isEmpty() && date.isValid() && time.isValid() ? std::optional(wall_time{date, time})
+                                                              : std::nullopt;
+}
+
+QDateTime read_datetime(QStringView text) {
+    const auto read = read_wall_time(text);
+    return read ? QDateTime(read->date, read->time) : QDateTime();
 }
 
 QDateTime to_datetime(const QString& text) {

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <optional>
+
 // Checked conversions for whatever comes from outside: boxes, rows, settings, frames.
 // Each throws DataError (conversion) for a value that is not of the wanted type; Null is none.
 
@@ -21,6 +23,14 @@
 /// A text; Null is refused.
 [[nodiscard]] QString to_text(const QVariant& value);
 
+/// A date and a time of day as they are written, wherever that may be.
+struct wall_time {
+    QDate date;
+    QTime time;
+
+    bool operator==(const wall_time&) const = default;
+};
+
 /// A moment from "yyyy/mm/dd hh:mm:ss" or "yyyy-mm-dd hh:mm:ss"; one-digit parts, a missing time
 /// and missing seconds are accepted.
 [[nodiscard]] QDateTime to_datetime(const QString& text);
@@ -28,3 +38,5 @@
 
 /// The same without an exception: an invalid QDateTime when the text is none.
 [[nodiscard]] QDateTime read_datetime(QStringView text);
+/// The same without asking what moment that is here; nothing when the text is none.
+[[nodiscard]] std::optional<wall_time> read_wall_time(QStringView text);

@@ -3,7 +3,6 @@
 
 #include "platform/criterion.h"
 
-#include "platform/conversion.h"
 #include "platform/data_error.h"
 
 #include <QRegularExpression>
@@ -49,7 +48,7 @@ Criterion::Criterion(const QString& text, const RowStore& store) {
     } else if (!quoted) {
         refuse(text);
     }
-    moment_ = read_datetime(value_);
+    moment_ = read_wall_time(value_);
 }
 
 bool Criterion::matches(const RowStore& store, qsizetype row) const {
@@ -68,8 +67,8 @@ bool Criterion::matches(const RowStore& store, qsizetype row) const {
 
 bool Criterion::matches_text(const QString& text) const {
     // Shown dates and stored ones differ in their marks; both name the same moment.
-    if (moment_.isValid()) {
-        return read_datetime(text) == moment_;
+    if (moment_) {
+        return read_wall_time(text) == moment_;
     }
     return text.compare(value_, Qt::CaseInsensitive) == 0;
 }

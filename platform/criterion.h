@@ -3,9 +3,8 @@
 
 #pragma once
 
+#include "platform/conversion.h"
 #include "platform/row_store.h"
-
-#include <QDateTime>
 
 #include <optional>
 
@@ -22,8 +21,8 @@ private:
 
     qsizetype column_ = -1;
     QString value_;
-    std::optional<double> number_; ///< the value, when it can be read as one
-    QDateTime moment_;             ///< likewise; invalid when it is no date-time
+    std::optional<double> number_;    ///< the value, when it can be read as one
+    std::optional<wall_time> moment_; ///< likewise
 };
 
 /// A column name as criteria and sort orders write it: bare or in square brackets.
