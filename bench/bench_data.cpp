@@ -1,116 +1,126 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-// Record access against SQLite's own interface, and the poll over a full queue.
-
 #include "bench/bench_store.h"
+#include "bench/benches.h"
+#include "bench/measure.h"
+#include "bench/plain_database.h"
 
-#include "data/c_customer.h"
 #include "data/c_gsendsms.h"
 #include "data/c_sendsms.h"
 #include "data/strconn.h"
 
-#include <benchmark/benchmark.h>
-#include <sqlite3.h>
-
-#include <string>
+#include <algorithm>
+#include <stdexcept>
+#include <unordered_map>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void durable_update_twin(benchmark::State& state) {
-    const bench_store store;
-    bench_store::fill_customers(1);
-    sqlite3* database = nullptr;
-    sqlite3_open(store.path().toUtf8().constData(), &database);
-    sqlite3_exec(database, "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
-    int number = 0;
-    for (const auto step : state) {
-        const QByteArray statement =
-            "update customer set memo='" + QByteArray::number(++number) + "' where cid=1";
-        if (sqlite3_exec(database, statement.constData(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-            state.SkipWithError("the update failed");
-        }
-    }
-    sqlite3_close(database);
-}
-BENCHMARK(durable_update_twin)->MinTime(1)->Unit(benchmark::kMicrosecond);
+struct message {
+    std::string mobile;
+    std::string sms;
+};
 
-void record_save(benchmark::State& state) {
-    const bench_store store;
-    bench_store::fill_customers(1);
-    c_customer access;
-    access.connection = strconn;
-    int number = 0;
-    for (const auto step : state) {
-        if (!access.updaterec(1, u"1980-01-01"_s, u"张三"_s, u"男"_s, u"13900000001"_s, {},
-                              QString::number(++number))) {
-            state.SkipWithError("the save failed");
-        }
-    }
+std::string text(const plain_database::statement& row, int column) {
+    return reinterpret_cast<const char*>(sqlite3_column_text(row.get(), column));
 }
-BENCHMARK(record_save)->MinTime(1)->Unit(benchmark::kMicrosecond);
 
-/// `queued`: how many of the pending messages are in the queue already.
-void searchsms(benchmark::State& state, bool queued) {
-    const bench_store store;
-    bench_store::fill_messages(static_cast<int>(state.range(0)));
-    c_sendsms access;
-    access.connection = strconn;
-    m_sendsmses full;
-    access.searchsms(full);
-    for (const auto step : state) {
-        m_sendsmses empty;
-        access.searchsms(queued ? full : empty);
+/// Every pending message into a map by its number.
+void search_by_hand(plain_database& database) {
+    const auto rows = database.prepare(
+        "SELECT  * From vwsendsms where sendisok=0 and stime < '2030/01/01 00:00:00'");
+    std::unordered_map<int, message> found;
+    while (database.step(rows)) {
+        found.try_emplace(sqlite3_column_int(rows.get(), 0), message{text(rows, 1), text(rows, 2)});
     }
 }
-BENCHMARK_CAPTURE(searchsms, all_queued, true)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(most_rows)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(searchsms, none_queued, false)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(most_rows)
-    ->Unit(benchmark::kMillisecond);
 
-/// The same inserts as plain statements in one transaction.
-void group_send_twin(benchmark::State& state) {
-    const bench_store store;
-    sqlite3* database = nullptr;
-    sqlite3_open(store.path().toUtf8().constData(), &database);
-    sqlite3_exec(database, "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
-    for (const auto step : state) {
-        sqlite3_exec(database, "BEGIN", nullptr, nullptr, nullptr);
-        for (int row = 1; row <= state.range(0); ++row) {
-            const std::string number = std::to_string(row);
-            const std::string statement =
-                "INSERT INTO sendsms (mobile,  sms,cid, sendisok,  smsfrom, imsend, rtime, stime) "
-                "values ('13900000" +
-                number + "','节日快乐，感谢您一直以来的支持！'," + number +
-                ",0,-1,0,'2024/01/31 08:00:00','2024/01/31 09:00:00')";
-            sqlite3_exec(database, statement.c_str(), nullptr, nullptr, nullptr);
-        }
-        sqlite3_exec(database, "COMMIT", nullptr, nullptr, nullptr);
-    }
-    sqlite3_close(database);
-}
-BENCHMARK(group_send_twin)->Arg(1000)->Arg(10000)->Arg(most_rows)->Unit(benchmark::kMillisecond);
+constexpr const char* greeting = "节日快乐，感谢您一直以来的支持！";
+constexpr const char* record_time = "2024/01/31 08:00:00";
+constexpr const char* send_time = "2024/01/31 09:00:00";
 
-void group_send(benchmark::State& state) {
-    const bench_store store;
-    bench_store::fill_customers(static_cast<int>(state.range(0)));
-    c_gsendsms access;
-    access.connection = strconn;
-    const QDateTime moment(QDate(2024, 1, 31), QTime(8, 0));
-    for (const auto step : state) {
-        if (!access.addrec(u"节日快乐，感谢您一直以来的支持！"_s, 0, false, -1, moment, moment)) {
-            state.SkipWithError("the group send failed");
-        }
+/// The same statements in one transaction.
+void group_send_by_hand(plain_database& database) {
+    const std::string moments = std::string("'") + record_time + "','" + send_time + "')";
+    database.execute("BEGIN IMMEDIATE");
+    database.execute(std::string("INSERT INTO gsendsms (cid,sms,  imsend,  isall,stime, rtime) "
+                                 "values (0,'") +
+                     greeting + "',0,-1," + moments);
+    const auto rows = database.prepare("select cid,mobile from customer ");
+    while (database.step(rows)) {
+        database.execute("INSERT INTO sendsms (mobile,  sms,cid, sendisok,  smsfrom, imsend, "
+                         "rtime, stime) values ('" +
+                         text(rows, 1) + "','" + greeting + "'," + text(rows, 0) + ",0,-1,0," +
+                         moments);
     }
+    database.execute("COMMIT");
 }
-BENCHMARK(group_send)->Arg(1000)->Arg(10000)->Arg(most_rows)->Unit(benchmark::kMillisecond);
+
+QDateTime moment(const char* text) {
+    return QDateTime::fromString(QString::fromLatin1(text), u"yyyy/MM/dd HH:mm:ss"_s);
+}
+
+double group_send_cost(plain_database& database, int rows, const std::function<void()>& send) {
+    database.execute("delete from sendsms");
+    database.execute("PRAGMA wal_checkpoint(TRUNCATE)");
+    const double took = milliseconds(send);
+    if (database.number("select count(*) from sendsms where sendisok=0 and smsfrom=-1") != rows) {
+        throw std::runtime_error("a message is missing");
+    }
+    return took;
+}
 
 } // namespace
+
+void bench_search() {
+    std::vector<double> costs;
+    for (const int rows : growth_rows) {
+        const bench_store store;
+        store.fill_messages(rows);
+        plain_database database(store.path());
+        c_sendsms access;
+        access.connection = strconn;
+        const auto ours = [&] {
+            m_sendsmses queue;
+            return milliseconds([&] { access.searchsms(queue); });
+        };
+        const auto twin = [&] { return milliseconds([&] { search_by_hand(database); }); };
+        const medians took = in_turn(15, ours, twin);
+        print(
+            {.operation = "search of pending", .rows = rows, .ours = took.ours, .twin = took.twin});
+        costs.push_back(took.ours);
+    }
+    print_growth("search of pending", costs);
+}
+
+void bench_group_send() {
+    std::vector<double> costs;
+    for (const int rows : growth_rows) {
+        const bench_store store;
+        store.fill_customers(rows);
+        plain_database database(store.path());
+        c_gsendsms access;
+        access.connection = strconn;
+        const auto by_program = [&] {
+            if (!access.addrec(QString::fromUtf8(greeting), 0, false, -1, moment(record_time),
+                               moment(send_time))) {
+                throw std::runtime_error("the group send failed");
+            }
+        };
+        const auto ours = [&] { return group_send_cost(database, rows, by_program); };
+        const auto twin = [&] {
+            return group_send_cost(database, rows, [&] { group_send_by_hand(database); });
+        };
+        const medians took = in_turn(9, ours, twin);
+        print({.operation = "group send",
+               .rows = rows,
+               .ours = took.ours,
+               .twin = took.twin,
+               .kind = bound::ratio_at_most,
+               .limit = 2.5});
+        costs.push_back(took.ours);
+    }
+    print_growth("group send", costs);
+}

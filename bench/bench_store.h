@@ -3,26 +3,33 @@
 
 #pragma once
 
-#include <QString>
 #include <QTemporaryDir>
+
+#include <string>
 
 /// The most rows that a 16-bit key can number.
 inline constexpr int most_rows = 32767;
 
-/// A database in a folder of its own, named by `strconn`, filled in one transaction.
+/// A database in a folder of its own.
 class bench_store {
 public:
+    /// Makes the database and names it in `strconn`.
     bench_store();
     ~bench_store();
     Q_DISABLE_COPY_MOVE(bench_store)
 
+    /// Names this database in `strconn` again.
+    void use() const;
     [[nodiscard]] QString folder() const { return folder_.path(); }
-    [[nodiscard]] QString path() const { return folder_.filePath(QStringLiteral("sms.old.mdb")); }
+    [[nodiscard]] std::string path() const;
 
-    static void fill_customers(int rows);
-    /// Pending messages that were due long ago.
-    static void fill_messages(int rows);
+    /// Customers in no order; the last differs from all others in every column.
+    void fill_customers(int rows) const;
+    /// Messages that were due long ago.
+    void fill_messages(int rows) const;
 
 private:
+    void fill(const char* statement, int rows) const;
+
     QTemporaryDir folder_;
 };
