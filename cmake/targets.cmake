@@ -5,6 +5,7 @@ target_compile_options(
     smscrm_options
     INTERFACE $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-Werror>
               $<$<BOOL:${SMSCRM_SANITIZE}>:-fsanitize=address,undefined;-fno-sanitize-recover=all;-fno-omit-frame-pointer>
+              $<$<BOOL:${SMSCRM_FUZZ}>:-fsanitize=fuzzer-no-link>
 )
 target_link_options(
     smscrm_options INTERFACE $<$<BOOL:${SMSCRM_SANITIZE}>:-fsanitize=address,undefined>
