@@ -3,7 +3,17 @@
 
 #include "platform/winsock.h"
 
+namespace {
+
+/// The most bytes of one arrival, far above any message. Left to the system, a flood would gather
+/// tens of megabytes while the program is busy, and handling them takes some fifteen times their
+/// size.
+constexpr qint64 most_at_once = 1'048'576;
+
+} // namespace
+
 Winsock::Winsock(QObject* parent) : QObject(parent) {
+    socket_.setReadBufferSize(most_at_once);
     connect(&socket_, &QTcpSocket::stateChanged, this, &Winsock::follow);
     connect(&socket_, &QTcpSocket::errorOccurred, this, &Winsock::fail);
     connect(&socket_, &QTcpSocket::readyRead, this, &Winsock::DataArrival);

@@ -45,7 +45,8 @@ public:
     void Close();
     /// Hands the bytes to the system in one write. Throws Error unless connected.
     void SendData(const QByteArray& bytes);
-    /// Everything that has arrived.
+    /// Everything that has arrived; of a flood, its next megabyte, and DataArrival follows for
+    /// more.
     [[nodiscard]] QByteArray GetData();
 
 signals:
