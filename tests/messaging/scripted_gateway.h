@@ -8,6 +8,10 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
+#include <future>
+
+#include <unistd.h>
+
 /// A gateway of the test's own on this machine: keeps what arrives and says what it is told to.
 class scripted_gateway {
 public:
@@ -33,6 +37,21 @@ public:
     [[nodiscard]] quint16 port() const { return port_; }
 
     void say(const QString& frame) { link_->write(QStringEncoder(QStringEncoder::Utf16LE)(frame)); }
+    /// Says the bytes over and over from a thread of its own, as fast as they are taken, `total` of
+    /// them in all.
+    [[nodiscard]] std::future<void> flood(const QByteArray& bytes, qint64 total) const {
+        const int descriptor = ::dup(static_cast<int>(link_->socketDescriptor()));
+        return std::async(std::launch::async, [=] {
+            QTcpSocket link;
+            link.setSocketDescriptor(descriptor);
+            for (qint64 said = 0; said < total; said += bytes.size()) {
+                link.write(bytes);
+                if (!link.waitForBytesWritten()) {
+                    break;
+                }
+            }
+        });
+    }
     void hang_up() { link_->disconnectFromHost(); }
 
 private:

@@ -6,16 +6,19 @@
 #include "data/c_sendsms.h"
 #include "data/strconn.h"
 #include "messaging/dispatch_engine.h"
+#include "messaging/gateway_frame.h"
 #include "platform/exclusive_lease.h"
 #include "tests/messaging/scripted_gateway.h"
 #include "tests/support/test_database.h"
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <functional>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using state = Winsock::StateEnum;
 
 namespace {
@@ -221,6 +224,36 @@ private slots:
         QVERIFY(intervals() == std::pair(0, 0) && s.engine.Timer2.Enabled());
         s.engine.Timer2.set_Interval(1);
         QTRY_COMPARE(s.outcome(), u"0, 0 left, idle"_s);
+    }
+
+    void floods_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray head = gateway_frame::to_bytes(u"013861391234567812240131235959"_s);
+        const QByteArray halves(10001, '\xd8');
+        QTest::newRow("received") << head + halves.chopped(1);
+        QTest::newRow("halves") << head + halves;
+        QTest::newRow("verdicts") << gateway_frame::to_bytes(u"1"_s).repeated(5000);
+    }
+
+    // What a gateway gone mad sends is taken in small parts, and the window gets its turn between.
+    void floods() {
+        QFETCH(QByteArray, bytes);
+        constexpr int total = 100'000'000;
+        constexpr int most_at_once = 1 << 20;
+        std::future<void> flood; // outlives the engine, whose end also ends a flood
+        stage s;
+        s.play_all(u"poll linked a poll >a hangup poll linked"_s);
+        QTimer window;
+        const QSignalSpy turns(&window, &QTimer::timeout);
+        window.start(0);
+        flood = s.gateway.flood(bytes, total);
+        QTRY_VERIFY_WITH_TIMEOUT(flood.wait_for(0s) == std::future_status::ready, 60000);
+        QTRY_VERIFY(s.arrivals.count() >= total / most_at_once);
+        QVERIFY(turns.count() >= s.arrivals.count() / 2);
+        const QVariant longest = s.value(u"select max(length(sms)) from recvedsms"_s);
+        QVERIFY(longest.toInt() <= most_at_once / 2);
+        s.play_all(u"hangup poll linked <007861391212240131235959ok"_s);
+        QCOMPARE(s.value(u"select sms from recvedsms order by smsrid desc"_s), u"ok"_s);
     }
 
     void a_thousand() {
