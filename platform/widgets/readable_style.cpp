@@ -25,7 +25,7 @@ QIcon in_text_colour(const QIcon& symbol) {
 
 QIcon readable_style::standardIcon(StandardPixmap symbol, const QStyleOption* option,
                                    const QWidget* widget) const {
-    const QIcon icon = QProxyStyle::standardIcon(symbol, option, widget);
+    QIcon icon = QProxyStyle::standardIcon(symbol, option, widget);
     switch (symbol) {
     case SP_ToolBarHorizontalExtensionButton:
     case SP_ToolBarVerticalExtensionButton:
