@@ -62,15 +62,17 @@ private slots:
 
     void killed_while_writing_data() {
         QTest::addColumn<QString>("begins");
+        QTest::addColumn<int>("takes_ms");     // about
         QTest::addColumn<QString>("constant"); // the same after every job that is done or left out
         QTest::newRow("group")
-            << u"logged in"_s
+            << u"logged in"_s << 120
             << u"select count(*) - 5000 * (select count(*) from gsendsms) from sendsms"_s;
-        QTest::newRow("start") << u"begin"_s << u"select count(*) from viewitems"_s;
+        QTest::newRow("start") << u"begin"_s << 30 << u"select count(*) from viewitems"_s;
     }
 
     void killed_while_writing() {
         QFETCH(QString, begins);
+        QFETCH(int, takes_ms);
         QFETCH(QString, constant);
         const auto job = QString::fromLatin1(QTest::currentDataTag());
         workplace w(0);
@@ -83,7 +85,7 @@ private slots:
             connection_pool::clear();
             process struck(u"/fault_client"_s, {folder, job});
             QVERIFY(struck.says(begins));
-            w.kills += struck.end(1 + chance_.bounded(120));
+            w.kills += struck.end(1 + chance_.bounded(takes_ms));
             QVERIFY(process(u"/fault_client"_s, {folder, job}).says(u"done"_s));
             strconn = make_strconn(folder);
             QVERIFY(w.is_sound());
