@@ -17,4 +17,4 @@ void bench_process();
 
 /// Runs one of the processes that `bench_process` measures instead of the table; returns its exit
 /// status.
-int run_probe(int argc, char* argv[]);
+int run_probe(int argc, char** argv);

@@ -12,9 +12,10 @@ namespace {
 bool any_missed = false;
 
 std::string number(double value, const std::string& unit) {
-    char text[32];
-    std::snprintf(text, sizeof text, value < 100 ? "%.2f %s" : "%.0f %s", value, unit.c_str());
-    return text;
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), value < 100 ? "%.2f %s" : "%.0f %s", value,
+                  unit.c_str());
+    return text.data();
 }
 
 std::string limit_text(const figure& shown) {

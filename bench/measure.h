@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <array>
 #include <functional>
 #include <string>
 #include <vector>
@@ -43,7 +44,7 @@ using measure = std::function<double()>;
 [[nodiscard]] medians in_turn(int rounds, const measure& ours, const measure& twin);
 
 /// The row counts at which the cost must be seen to grow in a straight line.
-inline constexpr int growth_rows[] = {1000, 10000, 32767};
+inline constexpr std::array growth_rows{1000, 10000, 32767};
 /// Prints what a row costs at the most rows (`ours`) beside what it costs at 10,000 (`twin`).
 /// `costs` holds the medians in milliseconds for `growth_rows`.
 void print_growth(const std::string& operation, const std::vector<double>& costs);

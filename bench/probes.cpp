@@ -75,7 +75,7 @@ int probe_client(const QString& kind, const QString& folder) {
 
 } // namespace
 
-int run_probe(int argc, char* argv[]) {
+int run_probe(int argc, char** argv) {
     const QApplication application(argc, argv);
     const QString kind = QString::fromLocal8Bit(argv[2]);
     const QString folder = QString::fromLocal8Bit(argv[3]);
