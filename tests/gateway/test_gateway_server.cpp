@@ -72,35 +72,30 @@ private slots:
 
     void delivers_to_first_client() {
         const QDateTime time(QDate(2024, 2, 3), QTime(4, 5, 6));
-        const QString header = u"004861012240203040506"_s;
-        network_->receive({u"8610"_s, time, u"kept"_s});
-        auto first = connected_client();
-        QTRY_COMPARE(first->answers(), header + u"kept"_s);
-        const auto second = connected_client();
-        network_->receive({u"8610"_s, time, u"next"_s});
-        QTRY_COMPARE(first->answers(), header + u"kept"_s + header + u"next"_s);
+        const QString frame = u"004861012240203040506kept"_s;
         for (int i = 0; i < 1'000; ++i) {
-            network_->receive({u"8610"_s, time, u"more"_s});
+            network_->receive({u"8610"_s, time, u"kept"_s});
         }
+        auto first = connected_client();
+        const auto second = connected_client();
+        QTRY_VERIFY(first->answers().startsWith(frame + frame + frame));
+        QCOMPARE(second->answers(), QString());
         first.reset(); // leaves while most of them wait
-        QTRY_VERIFY(second->answers().startsWith(header + u"more"_s + header));
+        QTRY_VERIFY(second->answers().startsWith(frame + frame));
     }
 
     void drops_flooding_clients() {
-        const auto good = connected_client();
         const auto babbler = connected_client();
         const auto pusher = connected_client();
-        network_->outcomes[2](gateway::verdict::sent); // only what is unsettled counts
+        network_->outcomes[1](gateway::verdict::sent); // only what is unsettled counts
         for (int i = 0; i < gateway::client_link::max_unsettled; ++i) {
             pusher->send(message_);
-            QTRY_COMPARE(network_->outcomes.size(), i + 4);
+            QTRY_COMPARE(network_->outcomes.size(), i + 3);
         }
         pusher->send(message_);
         QTRY_COMPARE(pusher->state(), QAbstractSocket::UnconnectedState);
         babbler->write(QByteArray(10'000'000, 'x'));
         QTRY_COMPARE(babbler->state(), QAbstractSocket::UnconnectedState);
-        network_->outcomes[0](gateway::verdict::sent);
-        QTRY_COMPARE(good->answers(), u"1"_s);
     }
 };
 

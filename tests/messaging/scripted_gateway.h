@@ -15,15 +15,16 @@
 /// A gateway of the test's own on this machine: keeps what arrives and says what it is told to.
 class scripted_gateway {
 public:
-    QStringList frames;    ///< what arrived, one entry an arrival
-    QString answer_to_all; ///< unless empty, follows every arrival
+    QStringList frames; ///< what arrived, one entry an arrival
     int connections = 0;
 
     scripted_gateway() {
         QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
             ++connections;
             link_ = server_.nextPendingConnection();
-            QObject::connect(link_, &QTcpSocket::readyRead, link_, [this] { take_arrival(); });
+            QObject::connect(link_, &QTcpSocket::readyRead, link_, [this] {
+                frames.append(QStringDecoder(QStringDecoder::Utf16LE)(link_->readAll()));
+            });
         });
     }
 
@@ -55,13 +56,6 @@ public:
     void hang_up() { link_->disconnectFromHost(); }
 
 private:
-    void take_arrival() {
-        frames.append(QStringDecoder(QStringDecoder::Utf16LE)(link_->readAll()));
-        if (!answer_to_all.isEmpty()) {
-            say(answer_to_all);
-        }
-    }
-
     QTcpServer server_;
     QTcpSocket* link_ = nullptr;
     quint16 port_ = static_cast<quint16>(20000 + QCoreApplication::applicationPid() % 12000);
