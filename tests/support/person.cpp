@@ -6,15 +6,18 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QInputMethodEvent>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QTableView>
 #include <QTimer>
 #include <QToolBar>
 #include <QWindow>
 
 #include <deque>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -55,20 +58,8 @@ void give_up(const QString& reason) {
 
 QString describe(const QWidget& dialog) {
     const auto* box = qobject_cast<const QMessageBox*>(&dialog);
-    return QStringLiteral("%1 \"%2\" %3")
-        .arg(QString::fromLatin1(dialog.metaObject()->className()), dialog.windowTitle(),
-             box == nullptr ? QString() : box->text());
-}
-
-/// A dialog that stays with nobody to answer it would hang the test.
-void watch_unexpected(const QWidget* modal) {
-    if (modal == nullptr || QTest::currentTestFunction() == nullptr) {
-        return;
-    }
-    if (--polls_left <= 0) {
-        give_up(QStringLiteral("nobody answers ") + describe(*modal));
-    }
-    poll_later();
+    return u"%1 \"%2\" %3"_s.arg(QString::fromLatin1(dialog.metaObject()->className()),
+                                 dialog.windowTitle(), box == nullptr ? QString() : box->text());
 }
 
 /// About to do what may open a dialog.
@@ -78,18 +69,16 @@ void watch() {
 }
 
 /// Looks for the dialog that is expected next; a timer of its own a step, because answering one
-/// dialog may open the next inside it.
+/// dialog may open the next inside it. One that nobody expects would stay, and hang the test.
 void poll() {
     polling = false;
-    static QPointer<QWidget> last;
+    static QPointer<QWidget> last; // was answered, and may take a while to go
     QWidget* modal = QApplication::activeModalWidget();
-    if (expected.empty()) {
-        watch_unexpected(modal);
+    if (expected.empty() && (modal == nullptr || QTest::currentTestFunction() == nullptr)) {
         return;
     }
-    if (modal == nullptr) {
-        last = nullptr;
-    } else if (modal->inherits(expected.front().class_name.constData())) {
+    if (!expected.empty() && modal != nullptr &&
+        modal->inherits(expected.front().class_name.constData())) {
         const expectation current = std::move(expected.front());
         expected.pop_front();
         polls_left = watchdog_polls;
@@ -100,12 +89,14 @@ void poll() {
         poll_later();
         current.act(*modal);
         return;
-    } else if (modal != last) {
-        give_up(QStringLiteral("unexpected: ") + describe(*modal));
-        return;
     }
-    if (--polls_left <= 0) {
-        give_up(QStringLiteral("no ") + QString::fromLatin1(expected.front().class_name));
+    if (modal == nullptr) {
+        last = nullptr;
+    }
+    const bool is_another = !expected.empty() && modal != last;
+    if (is_another || --polls_left <= 0) {
+        give_up(modal == nullptr ? u"no "_s + QString::fromLatin1(expected.front().class_name)
+                                 : u"unexpected: "_s + describe(*modal));
         return;
     }
     poll_later();
@@ -127,8 +118,8 @@ void person::expect_box(const QString& title, const QString& text,
                              !box.windowHandle()->title().isEmpty();
         QAbstractButton* button = box.button(answer);
         if (!matches || button == nullptr) {
-            give_up(QStringLiteral("box \"%1\" with symbol %2 instead of \"%3|%4\"")
-                        .arg(shown, QString::number(box.icon()), title, text));
+            give_up(u"box \"%1\" with symbol %2 instead of \"%3|%4\""_s.arg(
+                shown, QString::number(box.icon()), title, text));
             return;
         }
         QTest::mouseClick(button, Qt::LeftButton);
@@ -148,15 +139,23 @@ void person::set_observer(std::function<void(QWidget&)> watches) {
 void person::type(const QWidget& window, const QString& name, const QString& text) {
     auto& box = find<QWidget>(window, name);
     box.setFocus();
-    if (auto* line = qobject_cast<QLineEdit*>(&box)) {
-        line->selectAll();
-    } else if (auto* lines = qobject_cast<QPlainTextEdit*>(&box)) {
-        lines->selectAll();
+    if (const auto* choices = qobject_cast<QComboBox*>(&box)) {
+        for (int downs = choices->findText(text) - choices->currentIndex(); downs > 0; --downs) {
+            QTest::keyClick(&box, Qt::Key_Down);
+        }
+        return;
     }
+    QTest::keySequence(&box, QKeySequence::SelectAll);
     QTest::keyClick(&box, Qt::Key_Delete);
     QInputMethodEvent typed;
     typed.setCommitString(text);
     QApplication::sendEvent(&box, &typed);
+}
+
+void person::type(const QWidget& window, const boxes& texts) {
+    for (const auto& [name, text] : texts) {
+        type(window, name, text);
+    }
 }
 
 QString person::text_of(const QWidget& window, const QString& name) {
@@ -175,9 +174,16 @@ void person::click(const QWidget& window, const QString& name) {
         QTest::mouseClick(button, Qt::LeftButton, {}, {middle, middle});
         return;
     }
-    auto& toolbar = find<QToolBar>(window, QStringLiteral("Toolbar1"));
+    auto& toolbar = find<QToolBar>(window, u"Toolbar1"_s);
     QWidget* button = toolbar.widgetForAction(&find<QAction>(toolbar, name));
     QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void person::double_click(const QTableView& grid, int row) {
+    watch();
+    const QPoint place = grid.visualRect(grid.model()->index(row, 1)).center();
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, place);
 }
 
 void person::press_key(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers) {

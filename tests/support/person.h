@@ -9,6 +9,8 @@
 
 #include <functional>
 
+class QTableView;
+
 /// What a person does in front of the program: looks for a box by its name, types, clicks, and
 /// answers the modal dialogs as they come up. A name that is not there fails with the names that
 /// are.
@@ -18,11 +20,17 @@ namespace person {
 template <class Widget>
 [[nodiscard]] Widget& find(const QWidget& window, const QString& name);
 
-/// Replaces what stands in a line or text box, as an input method types it.
+using boxes = QList<std::pair<QString, QString>>; ///< their names, and what goes into them
+
+/// Replaces what stands in a line or text box, as an input method types it; goes down to the text
+/// in a list of choices.
 void type(const QWidget& window, const QString& name, const QString& text);
+void type(const QWidget& window, const boxes& texts);
 [[nodiscard]] QString text_of(const QWidget& window, const QString& name);
 /// Clicks a button, or a toolbar's button by its key.
 void click(const QWidget& window, const QString& name);
+/// Clicks a row twice, in its second column.
+void double_click(const QTableView& grid, int row);
 void press_key(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 /// Chooses a menu item that is not greyed.
 void choose(const QWidget& window, const QString& name);
@@ -57,12 +65,8 @@ Widget& find(const QWidget& window, const QString& name) {
     if (auto* found = window.findChild<Widget*>(name)) {
         return *found;
     }
-    QStringList names;
-    for (const QObject* child : window.findChildren<Widget*>()) {
-        names.append(child->objectName());
-    }
-    qFatal("no %s \"%s\"; there are: %s", Widget::staticMetaObject.className(), qPrintable(name),
-           qPrintable(names.join(u' ')));
+    window.dumpObjectTree();
+    qFatal("no %s \"%s\"", Widget::staticMetaObject.className(), qPrintable(name));
 }
 
 } // namespace person
