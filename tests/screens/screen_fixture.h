@@ -42,7 +42,11 @@ private:
 };
 
 [[nodiscard]] inline DataGrid& grid_of(const QWidget& window) {
-    return person::find<DataGrid>(window, QStringLiteral("DataGrid1"));
+    return *window.findChild<DataGrid*>();
+}
+
+inline void expect_refusal(const QString& text, const QString& title = QStringLiteral("输入错误")) {
+    person::expect_box(title, text, QMessageBox::Ok, QMessageBox::Critical);
 }
 
 /// What a window's grid shows in a column, its rows joined by blanks.

@@ -5,8 +5,6 @@
 #include "app/frmAbout.h"
 #include "app/frmLogin.h"
 #include "app/frmserver.h"
-#include "operators/frmRights.h"
-#include "operators/frmuser.h"
 #include "platform/settings_store.h"
 #include "tests/screens/screen_fixture.h"
 
@@ -27,6 +25,15 @@ void set_setting(const QString& key, const QString& value) {
     settings_store::save(application_title(), settings_section(), key, value);
 }
 
+/// What is typed into the login, the stored password (a literal), and the error that comes of it:
+/// "box" for the login's own.
+struct attempt {
+    QString name;
+    QString typed;
+    QString stored;
+    QString error;
+};
+
 } // namespace
 
 /// From the login to the end of the main window: who may do what, and where the window stands.
@@ -45,147 +52,52 @@ private slots:
     }
 
     void logs_in_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("stored"); // as a literal
-        QTest::addColumn<QString>("error");  // "box" for the login's own
+        QTest::addColumn<attempt>("tried");
         const QString me = u"valdrine"_s;
-        QTest::newRow("no password") << me << QString() << u"''"_s << QString();
-        QTest::newRow("blanks") << me << u"  "_s << u"''"_s << QString();
-        QTest::newRow("wide blank") << me << u"\u3000"_s << u"''"_s << u"box"_s;
-        QTest::newRow("any case") << u"VALDRINE"_s << u"Pass"_s << u"'pASS'"_s << QString();
-        QTest::newRow("blank before name") << u" valdrine"_s << QString() << u"''"_s << u"box"_s;
-        QTest::newRow("wrong") << me << u"x"_s << u"'y'"_s << u"box"_s;
-        QTest::newRow("needs one") << me << QString() << u"'y'"_s << u"box"_s;
-        QTest::newRow("Null") << me << QString() << u"null"_s
-                              << u"数据的格式或者范围不正确。\n\ninvalid use of Null"_s;
+        const QString box = u"box"_s;
+        QTest::newRow("no password") << attempt{me, {}, u"''"_s, {}};
+        QTest::newRow("blanks") << attempt{me, u"  "_s, u"''"_s, {}};
+        QTest::newRow("wide blank") << attempt{me, u"\u3000"_s, u"''"_s, box};
+        QTest::newRow("any case") << attempt{u"VALDRINE"_s, u"Pass"_s, u"'pASS'"_s, {}};
+        QTest::newRow("blank before name") << attempt{u" valdrine"_s, {}, u"''"_s, box};
+        QTest::newRow("needs one") << attempt{me, {}, u"'y'"_s, box};
+        QTest::newRow("Null") << attempt{
+            me, {}, u"null"_s, u"数据的格式或者范围不正确。\n\ninvalid use of Null"_s};
     }
 
     void logs_in() {
-        QFETCH(const QString, name);
-        QFETCH(const QString, typed);
-        QFETCH(const QString, stored);
-        QFETCH(const QString, error);
-        test_database::execute(u"update users set password="_s + stored);
+        QFETCH(const attempt, tried);
+        const bool is_refused = tried.error == u"box"_s;
+        test_database::execute(u"update users set password="_s + tried.stored);
         curuser->logout();
         frmLogin login;
         login.show();
-        person::type(login, u"txtUserName"_s, name);
-        person::type(login, u"txtPassword"_s, typed);
-        if (error == u"box"_s) {
+        person::type(login, {{u"txtUserName"_s, tried.name}, {u"txtPassword"_s, tried.typed}});
+        if (is_refused) {
             person::expect_box(u"登录错误"_s, u"用户名称或者口令输入错误，请重新输入！"_s,
                                QMessageBox::Ok, QMessageBox::NoIcon);
-        } else if (!error.isEmpty()) {
-            person::expect_box(u"系统提示"_s, error, QMessageBox::Ok, QMessageBox::Critical);
+        } else if (!tried.error.isEmpty()) {
+            expect_refusal(tried.error, u"系统提示"_s);
         }
         person::click(login, u"cmdOK"_s);
-        QCOMPARE(login.loginok, error.isEmpty());
-        QCOMPARE(login.failed, !error.isEmpty() && error != u"box"_s);
-        QCOMPARE(login.isVisible(), error == u"box"_s);
-        QVERIFY(!login.loginok || curuser->CanDo(function_id::operator_administration, true));
+        QCOMPARE(login.loginok, tried.error.isEmpty());
+        QCOMPARE(login.failed, !tried.error.isEmpty() && !is_refused);
+        QCOMPARE(login.isVisible(), is_refused);
         const auto* focus = qobject_cast<QLineEdit*>(login.focusWidget());
-        QVERIFY(!login.isVisible() || (focus->objectName() == u"txtPassword"_s &&
-                                       focus->selectedText().size() == typed.size()));
+        QVERIFY(!is_refused || (focus->objectName() == u"txtPassword"_s &&
+                                focus->selectedText().size() == tried.typed.size()));
     }
 
-    void logs_out_and_in_again() {
-        const QAction& item = person::find<QAction>(program_->window, u"logout"_s);
-        const auto shown = [&] {
-            return item.text() + person::text_of(program_->window, u"Panel2"_s);
-        };
-        QCOMPARE(shown(), u"注销我自己操作员：valdrine"_s);
-        person::choose(program_->window, u"logout"_s);
-        QCOMPARE(shown(), u"注册操作员："_s);
-        for (const auto& button : {u"cmdCancel"_s, u"cmdOK"_s}) {
-            person::during_modal<frmLogin>([&](frmLogin& login) { person::click(login, button); });
-            person::choose(program_->window, u"logout"_s);
-            QCOMPARE(shown(),
-                     button == u"cmdOK"_s ? u"注消我自己操作员：valdrine"_s : u"注册操作员："_s);
-        }
+    void stays_logged_out_when_nobody_logs_in() {
+        const frmMain& window = program_->window;
+        person::choose(window, u"logout"_s);
+        person::during_modal<frmLogin>(
+            [](frmLogin& login) { person::click(login, u"cmdCancel"_s); });
+        person::choose(window, u"logout"_s);
+        QCOMPARE(person::text_of(window, u"Panel2"_s), u"操作员："_s);
+        QCOMPARE(person::find<QAction>(window, u"logout"_s).text(), u"注册"_s);
         // A name is no markup.
-        QCOMPARE(person::find<QLabel>(program_->window, u"Panel2"_s).textFormat(), Qt::PlainText);
-    }
-
-    void maintains_operators() {
-        const auto answer = [](const QString& name, const QString& password, const QString& again) {
-            person::during_modal<frmuser>([=](frmuser& dialog) {
-                person::type(dialog, u"txtUserName"_s, name);
-                person::type(dialog, u"txtPassword"_s, password);
-                person::type(dialog, u"txtconpass"_s, again);
-                person::click(dialog, u"cmdok"_s);
-            });
-        };
-        const auto refused = [](const QString& text) {
-            person::expect_box(u"输入错误"_s, text, QMessageBox::Ok, QMessageBox::Critical);
-        };
-        const auto stored = [] {
-            return test_database::rows(u"select username, password from users"_s).join(u' ');
-        };
-        frmdatagrid& list = program_->list(u"mnuSysUSer"_s);
-        answer(u"  "_s, {}, {});
-        refused(u"用户名称输入错误请检查！"_s);
-        answer(u"小王"_s, u"p"_s, u"p "_s);
-        refused(u"用户口令输入错误！ "_s);
-        answer(u"O'Neil"_s, {}, {});
-        person::expect_box(u"不能保存"_s, u"输入错误，操作员不能保存！"_s);
-        answer(u"小王"_s, u" p "_s, u" p "_s);
-        person::expect_box(u"创建成功"_s, u"成功创建一个新的用户，是否继续? "_s, QMessageBox::No,
-                           QMessageBox::NoIcon);
-        person::click(list, u"Add"_s);
-        QCOMPARE(stored(), u"valdrine| 小王|p"_s);
-        QCOMPARE(column_of(list, 1), u"valdrine 小王"_s);
-        QCOMPARE(grid_of(list).model()->columnCount(), 2); // no password
-
-        answer(u"王"_s, u" q "_s, u" q "_s);
-        person::expect_box(u"保存成功"_s, u"成功修改了用户的信息"_s);
-        grid_of(list).selectRow(1);
-        person::click(list, u"Edit"_s);
-        QCOMPARE(stored(), u"valdrine| 王| q "_s);
-        person::expect_box(u"删除成功"_s, u"成功删除操作员，编号为:2"_s);
-        person::click(list, u"Delete"_s);
-        answer(u"valdrine"_s, u"new"_s, u"new"_s);
-        person::expect_box(u"保存成功"_s, u"成功修改了用户的信息"_s);
-        person::choose(program_->window, u"mnuChgPassword"_s);
-        QCOMPARE(stored(), u"valdrine|new"_s);
-    }
-
-    void grants_and_withdraws_rights() {
-        test_database::execute(u"insert into users (username) values ('小王')"_s);
-        test_database::execute(u"insert into rights (userid, funid) values (2, 2), (2, 77)"_s);
-        const auto rights_of = [](const QString& id) {
-            return test_database::rows(
-                       u"select funid from rights where userid=%1 order by funid"_s.arg(id))
-                .join(u' ');
-        };
-        person::during_modal<frmRights>([&](frmRights& editor) {
-            auto& users = person::find<DataGrid>(editor, u"dataUsers"_s);
-            auto& functions = person::find<DataGrid>(editor, u"dataFuns"_s);
-            const auto marks = [&functions] {
-                const QAbstractItemModel& rows = *functions.model();
-                return rows.index(0, 2).data().toString() + u'|' +
-                       rows.index(1, 2).data().toString();
-            };
-            QCOMPARE(users.model()->columnCount(), 2); // no password
-            QCOMPARE(marks(), u"√|√"_s);
-            users.selectRow(1);
-            QCOMPARE(marks(), u"|√"_s);
-            QTest::keyClick(&functions, Qt::Key_Space); // the first one
-            QCOMPARE(marks(), u"√|√"_s);
-            QCOMPARE(rights_of(u"2"_s), u"1 2 77"_s);
-            functions.selectRow(1);
-            const QPoint place = functions.visualRect(functions.currentIndex()).center();
-            QTest::mouseClick(functions.viewport(), Qt::LeftButton, {}, place);
-            QTest::mouseDClick(functions.viewport(), Qt::LeftButton, {}, place);
-            QCOMPARE(marks(), u"√|"_s);
-            QCOMPARE(rights_of(u"2"_s), u"1 77"_s);
-            users.selectRow(0);
-            QCOMPARE(marks(), u"√|√"_s);
-            person::press_key(editor, Qt::Key_Escape);
-        });
-        person::choose(program_->window, u"mnuSysRight"_s);
-        curuser->set_userid(2);
-        QVERIFY(curuser->CanDo(function_id::operator_administration, true) &&
-                !curuser->CanDo(function_id::daily_work, false));
+        QCOMPARE(person::find<QLabel>(window, u"Panel2"_s).textFormat(), Qt::PlainText);
     }
 
     void keeps_the_name_of_a_server_that_answers() {
@@ -211,25 +123,23 @@ private slots:
 
     void tells_about_itself() {
         class fake_registry : public Registry {
-        public:
-            [[nodiscard]] std::optional<value> query(RootEnum /*root*/, const QString& key,
+            [[nodiscard]] std::optional<value> query(RootEnum /*root*/, const QString& /*key*/,
                                                      const QString& name) const override {
-                if (key != u"key"_s) {
-                    return std::nullopt;
-                }
-                return name == u"text"_s ? value{TypeEnum::string, QByteArray("abc\0def", 8)}
-                                         : value{TypeEnum::dword, QByteArray("\x78\x56\x34\x12")};
+                return name == u"text"_s     ? value{TypeEnum::string, QByteArray("abc\0def", 8)}
+                       : name == u"number"_s ? value{TypeEnum::dword, "\x78\x56\x34\x12"}
+                                             : std::optional<value>();
             }
         };
-        const auto root = Registry::RootEnum::local_machine;
         const fake_registry registry;
-        frmAbout about(registry);
-        QString result = u"old"_s;
-        QVERIFY(!about.GetKeyValue(root, u"none"_s, u"text"_s, result) && result.isEmpty());
-        QVERIFY(about.GetKeyValue(root, u"key"_s, u"text"_s, result));
-        QCOMPARE(result, u"abc"_s);
-        QVERIFY(about.GetKeyValue(root, u"key"_s, u"number"_s, result));
-        QCOMPARE(result, QString::number(0x12345678));
+        const frmAbout about(registry);
+        for (const auto& [name, text] : {std::pair(u"text"_s, u"abc"_s),
+                                         {u"none"_s, QString()},
+                                         std::pair(u"number"_s, QString::number(0x12345678))}) {
+            QString result = u"old"_s;
+            QCOMPARE(about.GetKeyValue(Registry::RootEnum::local_machine, {}, name, result),
+                     !text.isEmpty());
+            QCOMPARE(result, text);
+        }
         person::during_modal<frmAbout>([](frmAbout& dialog) {
             person::expect_box(application_title(),
                                u"System Information Is Unavailable At This Time"_s, QMessageBox::Ok,
@@ -243,30 +153,17 @@ private slots:
 
     void keeps_its_place() {
         frmMain& window = program_->window;
-        const auto place = [&window](int left, int top, int width, int height) {
-            const double dpi = window.logicalDpiX();
-            return QRect(qRound(left * dpi / 1440), qRound(top * dpi / 1440),
-                         qRound(width * dpi / 1440), qRound(height * dpi / 1440));
-        };
-        const auto place_of_next = [] {
+        const auto left_of_next = [](const QString& kept) {
+            set_setting(u"MainLeft"_s, kept);
             curuser = std::make_unique<rsclsuser>();
-            client next;
-            const frmMain& opened = next.open_main_window();
-            return QRect(opened.pos(), opened.size());
+            return client().open_main_window().x();
         };
-        QCOMPARE(place_of_next(), place(1000, 1000, 6500, 6500));
         window.showMinimized();
         window.close();
         QCOMPARE(setting(u"MainLeft"_s), u"none"_s);
-        window.showNormal();
-        window.move(place(600, 900, 0, 0).topLeft());
-        window.resize(place(0, 0, 7500, 4500).size());
-        window.close();
-        QCOMPARE(setting(u"MainLeft"_s), u"600"_s);
-        QCOMPARE(place_of_next(), place(600, 900, 7500, 4500));
-        set_setting(u"MainLeft"_s, u"左"_s);
+        QCOMPARE(left_of_next(u"600"_s), qRound(600 * window.logicalDpiX() / 1440.0));
         person::expect_box(u"系统提示"_s, u"窗口位置的设置不是数字，已恢复为默认值。"_s);
-        QCOMPARE(place_of_next(), place(1000, 1000, 6500, 6500));
+        QCOMPARE(left_of_next(u"左"_s), qRound(1000 * window.logicalDpiX() / 1440.0));
     }
 
     void tiles_windows() {
@@ -274,19 +171,20 @@ private slots:
         static_cast<void>(program_->list(u"mnuCreTech"_s));
         const auto windows = program_->area.subWindowList();
         const QSize room = program_->area.viewport()->size();
-        person::choose(program_->window, u"mnuWindowTileHorizontal"_s);
-        QCOMPARE(windows[0]->size() + QSize(0, windows[1]->height()), room);
-        QVERIFY(!windows[0]->geometry().intersects(windows[1]->geometry()));
-        person::choose(program_->window, u"mnuWindowTileVertical"_s);
-        QCOMPARE(windows[0]->size() + QSize(windows[1]->width(), 0), room);
-        QVERIFY(!windows[0]->geometry().intersects(windows[1]->geometry()));
+        for (const auto& [item, both] :
+             {std::pair(u"mnuWindowTileHorizontal"_s, room + QSize(room.width(), 0)),
+              std::pair(u"mnuWindowTileVertical"_s, room + QSize(0, room.height()))}) {
+            person::choose(program_->window, item);
+            QCOMPARE(windows[0]->size() + windows[1]->size(), both);
+            QVERIFY(!windows[0]->geometry().intersects(windows[1]->geometry()));
+        }
     }
 
     void refuses_what_is_no_database() {
         const QTemporaryDir folder;
         const auto start = [](const QString& directory, const QString& error) {
             set_setting(u"connection"_s, u"server"_s);
-            person::expect_box(u"系统提示"_s, error, QMessageBox::Ok, QMessageBox::Critical);
+            expect_refusal(error, u"系统提示"_s);
             QCOMPARE(start_session(directory), std::optional(1));
             QCOMPARE(setting(u"connection"_s), QString()); // no server name outlives a restart
         };
