@@ -55,8 +55,7 @@ class test_rights : public QObject {
         if (way.startsWith(u"mnu")) {
             person::choose(program_.window, way);
         } else if (way == u"row" && !by_keys) {
-            const QPoint place = grid.visualRect(grid.currentIndex()).center();
-            QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, place);
+            person::double_click(grid, grid.row());
         } else if (way == u"row") {
             person::press_key(grid, Qt::Key_Return);
         } else if (by_keys && !button->shortcut().isEmpty()) {
