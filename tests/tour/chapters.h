@@ -7,17 +7,19 @@ class QProcess;
 class frmMain;
 
 /// The tour: four runs of the program over one database. Each is handed the main window when
-/// somebody has logged in, and ends by closing it.
+/// somebody has logged in, and is closed after it.
 namespace tour {
+
+using chapter = void(frmMain& window, QProcess& gateway);
 
 /// A phrase, two customers and the gateway's port. The engine reads the port once, when the window
 /// opens: a new one serves the next start.
-void first_run(frmMain& window, const QString& port);
+chapter first_run;
 /// A message goes out, an answer comes in; sorting, finding, logging out.
-void second_run(frmMain& window, QProcess& gateway);
+chapter second_run;
 /// A class with two members, messages to it and to everybody, their answers, another layout.
-void third_run(frmMain& window, QProcess& gateway);
+chapter third_run;
 /// What an operator without rights may do, with one and without it again.
-void fourth_run(frmMain& window);
+chapter fourth_run;
 
 } // namespace tour

@@ -3,8 +3,9 @@
 
 #include "tests/tour/guide.h"
 
+#include <QAccessible>
 #include <QApplication>
-#include <QDir>
+#include <QDirIterator>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -25,6 +26,16 @@ constexpr int longest_wait_for_frame_ms = 500;
 QDir folder;
 guide::frame shown = guide::frame::screen;
 int number = 1; // of the step that is going on
+QString told;   // everything that was shown, read aloud, logged or left in a file
+
+void listen_to(const QAccessibleInterface& part) {
+    for (const auto kind : {QAccessible::Name, QAccessible::Description, QAccessible::Value}) {
+        told += part.text(kind) + u'\n';
+    }
+    for (int i = 0; i < part.childCount(); ++i) {
+        listen_to(*part.child(i));
+    }
+}
 
 QRect front_window() {
     const QWidget* modal = QApplication::activeModalWidget();
@@ -56,6 +67,7 @@ void guide::start(const QString& pictures, frame wanted) {
         if (type == QtFatalMsg) {
             fail(message);
         }
+        told += message;
         std::fprintf(stderr, "%s\n", qPrintable(message));
     });
     QTimer::singleShot(longest_run_ms, qApp, [] { fail(u"expected the end, not seen in time"_s); });
@@ -72,6 +84,7 @@ void guide::step(const QString& name, const QString& expected, const QStringList
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && QTest::qWaitForWindowExposed(window)) {
             window->repaint();
+            listen_to(*QAccessible::queryAccessibleInterface(window));
         }
     }
     if (!take_picture(name)) {
@@ -102,6 +115,24 @@ void guide::look_at(QWidget& dialog) {
     const int title_bar = 60; // at most; the toolkit leaves room for one
     if (QApplication::focusWidget() == nullptr || off.manhattanLength() > title_bar) {
         fail(u"expected in the middle, with the keyboard: "_s + dialog.windowTitle());
+    }
+}
+
+void guide::check_secret(const QString& data_folder) {
+    QDirIterator files(data_folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        if (!files.fileName().startsWith(u"sms.old.mdb") && file.open(QIODevice::ReadOnly)) {
+            told += QString::fromUtf8(file.readAll());
+        }
+    }
+    for (const auto& sign : {u"MainLeft"_s, u"valdrine"_s, u"用户口令输入错误"_s}) {
+        if (!told.contains(sign)) {
+            fail(u"expected to be told somewhere: "_s + sign); // so it was really looked there
+        }
+    }
+    if (told.contains(secret)) {
+        fail(u"expected no password, seen "_s + told.sliced(told.indexOf(secret), 20));
     }
 }
 

@@ -13,6 +13,9 @@ class QWidget;
 /// should be ends the program at once, with a line and a picture that say so.
 namespace guide {
 
+/// In every password that is typed on the tour.
+inline const QString secret = QStringLiteral("geheim");
+
 enum class frame { screen, front_window };
 
 /// From now on a fatal message or a run that takes too long is a failure too.
@@ -29,6 +32,9 @@ void wait_for(const QString& what, const std::function<bool()>& condition);
 void activate(QWidget& window);
 /// A dialog came up: it must take the keyboard and lie in the middle of its owner.
 void look_at(QWidget& dialog);
+
+/// No password was shown, read aloud or logged so far, nor lies in a file beside the database.
+void check_secret(const QString& data_folder);
 
 [[noreturn]] void fail(const QString& reason);
 

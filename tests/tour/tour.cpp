@@ -24,26 +24,31 @@ using namespace visitor;
 
 namespace {
 
-/// Runs the program from the log-in, which the caller expects, until `work` closes its window.
-void run_program(const QString& folder, const std::function<void(frmMain&)>& work) {
+/// Runs the program from the log-in on, does the work and closes the window.
+void run_program(const QString& folder, const QString& login, tour::chapter& work,
+                 QProcess& gateway) {
+    expect_login(login, {});
     if (start_session(folder)) {
         guide::fail(u"expected to be logged in, seen the end of the program"_s);
     }
     client program;
     frmMain& window = program.open_main_window();
-    QTimer::singleShot(0, &window, [&] { work(window); });
+    QTimer::singleShot(0, &window, [&] {
+        work(window, gateway);
+        choose(window, u"mnuFile"_s, u"mnuSysExit"_s);
+    });
     const int status = QApplication::exec();
     guide::step(u"closed"_s, u"exit status 0"_s, {u"exit status %1"_s.arg(status)});
 }
 
 /// Starts the gateway that lies beside this program, on a port that the client can hold.
-QString start_gateway(QProcess& gateway) {
+void start_gateway(QProcess& gateway) {
     gateway.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     for (int port = 32'767; port > 32'700; --port) {
         gateway.start(QCoreApplication::applicationDirPath() + u"/smsgateway"_s,
                       {u"--listen"_s, u"127.0.0.1:%1"_s.arg(port)});
         if (gateway.waitForReadyRead() && gateway.readLine().startsWith("listening on")) {
-            return QString::number(port);
+            return;
         }
         gateway.waitForFinished();
     }
@@ -64,20 +69,19 @@ int main(int argc, char* argv[]) {
     const QTemporaryDir folder;
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
     QProcess gateway;
-    const QString port = start_gateway(gateway);
+    start_gateway(gateway);
 
     set_up_toolkit();
     QApplication::setQuitOnLastWindowClosed(false);
-    expect_login(u"login"_s, u"1234"_s);
+    expect_login(u"login"_s, guide::secret);
     expect_box(u"wrong-password"_s, u"登录错误|用户名称或者口令输入错误，请重新输入！"_s);
-    expect_login(u"second-try"_s, {});
-    run_program(folder.path(), [&port](frmMain& window) { tour::first_run(window, port); });
-    expect_login(u"second-start"_s, {});
-    run_program(folder.path(), [&gateway](frmMain& window) { tour::second_run(window, gateway); });
-    expect_login(u"third-start"_s, {});
-    run_program(folder.path(), [&gateway](frmMain& window) { tour::third_run(window, gateway); });
-    expect_login(u"fourth-start"_s, {});
-    run_program(folder.path(), [](frmMain& window) { tour::fourth_run(window); });
+    for (const auto& [login, chapter] : {std::pair(u"second-try"_s, &tour::first_run),
+                                         std::pair(u"second-start"_s, &tour::second_run),
+                                         std::pair(u"third-start"_s, &tour::third_run),
+                                         std::pair(u"fourth-start"_s, &tour::fourth_run)}) {
+        run_program(folder.path(), login, *chapter, gateway);
+    }
+    guide::check_secret(folder.path());
     gateway.kill();
     gateway.waitForFinished();
     return EXIT_SUCCESS;

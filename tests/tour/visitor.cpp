@@ -6,11 +6,9 @@
 #include "app/frmMain.h"
 #include "listview/frmdatagrid.h"
 #include "platform/widgets/data_grid.h"
-#include "tests/support/person.h"
 #include "tests/support/test_database.h"
 #include "tests/tour/guide.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -55,17 +53,20 @@ void visitor::press(frmMain& window, const QString& tool) {
     person::click(front_list(window), tool);
 }
 
-QString visitor::shown(const frmMain& window, int last, int row) {
-    const auto* cells = front_grid(window).model();
+QString visitor::rows_of(const DataGrid& grid, int first, int last, int row) {
     QStringList rows;
-    for (; row < cells->rowCount(); ++row) {
+    for (; row < grid.model()->rowCount(); ++row) {
         QStringList texts;
-        for (int column = 1; column <= last; ++column) {
-            texts.append(cells->index(row, column).data().toString());
+        for (int column = first; column <= last; ++column) {
+            texts.append(grid.model()->index(row, column).data().toString());
         }
         rows.append(texts.join(u'|'));
     }
     return rows.join(u" / "_s);
+}
+
+QString visitor::shown(const frmMain& window, int last, int row) {
+    return rows_of(front_grid(window), 1, last, row);
 }
 
 QString visitor::layout_of(const frmMain& window) {
@@ -88,24 +89,44 @@ void visitor::expect_box(const QString& step, const QString& text,
 }
 
 void visitor::expect_dialog(const char* dialog_class, const QString& step, const QString& caption,
-                            const typed& texts) {
+                            const person::boxes& texts) {
     person::expect_modal(dialog_class, [=](QWidget& dialog) {
-        for (const auto& [name, text] : texts) {
-            auto* choices = dialog.findChild<QComboBox*>(name);
-            if (choices == nullptr) {
-                person::type(dialog, name, text);
-            }
-            for (int downs = choices ? choices->findText(text) : -1; downs >= 0; --downs) {
-                QTest::keyClick(choices, Qt::Key_Down);
-            }
-        }
+        person::type(dialog, texts);
         guide::step(step, caption, {dialog.windowTitle()});
         person::press_key(dialog, Qt::Key_Return,
                           dialog.inherits("edit_dialog") ? Qt::ControlModifier : Qt::NoModifier);
     });
 }
 
-void visitor::expect_pick(const QString& step, const QString& caption, int downs) {
+void visitor::expect_saving(const char* dialog_class, const QString& step, const QString& caption,
+                            const person::boxes& texts, const QString& saved,
+                            QMessageBox::StandardButton answer) {
+    expect_dialog(dialog_class, step, caption, texts);
+    expect_box(step + u"-saved"_s, saved, answer);
+}
+
+void visitor::expect_filled(const char* dialog_class, const QString& step,
+                            const person::answer& fill, const QStringList& boxes,
+                            const QString& filled, const QString& saved,
+                            const std::function<void()>& next) {
+    person::expect_modal(dialog_class, [=](QWidget& dialog) {
+        fill(dialog);
+        QStringList seen;
+        for (const QString& box : boxes) {
+            seen.append(person::text_of(dialog, box));
+        }
+        guide::step(step, filled, {seen.join(u'|')});
+        expect_box(step + u"-saved"_s, u"保存成功|"_s + saved,
+                   next ? QMessageBox::Yes : QMessageBox::No);
+        if (next) {
+            next();
+        }
+        person::click(dialog, u"cmdok"_s);
+    });
+}
+
+void visitor::pick(const QWidget& dialog, const QString& button, const QString& step,
+                   const QString& caption, int downs) {
     person::expect_modal("frmref", [=](QWidget& picker) {
         for (int i = 0; i < downs; ++i) {
             person::press_key(picker, Qt::Key_Down);
@@ -113,14 +134,17 @@ void visitor::expect_pick(const QString& step, const QString& caption, int downs
         guide::step(step, caption, {picker.windowTitle()});
         person::press_key(picker, Qt::Key_Return);
     });
+    person::click(dialog, button);
 }
 
 void visitor::expect_login(const QString& step, const QString& password, const QString& name) {
-    typed texts{{u"txtPassword"_s, password}};
-    if (!name.isEmpty()) {
-        texts.prepend({u"txtUserName"_s, name});
-    }
-    expect_dialog("frmLogin", step, u"系统登录"_s, texts);
+    expect_dialog("frmLogin", step, u"系统登录"_s,
+                  {{u"txtUserName"_s, name}, {u"txtPassword"_s, password}});
+}
+
+void visitor::see_rows(const QString& step, const QString& expected, const frmMain& window,
+                       int last, const QString& statement, int row) {
+    guide::step(step, expected, {shown(window, last, row), stored(statement)});
 }
 
 QString visitor::describe(const frmMain& window) {

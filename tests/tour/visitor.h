@@ -3,8 +3,7 @@
 
 #pragma once
 
-#include <QMessageBox>
-#include <QStringList>
+#include "tests/support/person.h"
 
 class DataGrid;
 class frmMain;
@@ -23,6 +22,8 @@ void choose(frmMain& window, const QString& menu, const QString& item, const QSt
 [[nodiscard]] DataGrid& front_grid(const frmMain& window);
 /// Presses a tool of the list in front.
 void press(frmMain& window, const QString& tool);
+/// What a grid's rows show in the columns from `first` to `last`, joined by " / ".
+[[nodiscard]] QString rows_of(const DataGrid& grid, int first, int last, int row = 0);
 /// The rows of the list in front from `row` on, the columns behind the key up to `last`.
 [[nodiscard]] QString shown(const frmMain& window, int last, int row = 0);
 /// The headings of the list in front that are seen.
@@ -34,12 +35,25 @@ void press(frmMain& window, const QString& tool);
 void expect_box(const QString& step, const QString& text,
                 QMessageBox::StandardButton answer = QMessageBox::Ok);
 
-using typed = QList<std::pair<QString, QString>>; ///< the names of boxes and what goes into them
 /// Expects a dialog, fills its boxes and ends it with the key that confirms.
 void expect_dialog(const char* dialog_class, const QString& step, const QString& caption,
-                   const typed& texts = {});
-/// Expects a picker and takes the row so many below the first.
-void expect_pick(const QString& step, const QString& caption, int downs = 0);
-void expect_login(const QString& step, const QString& password, const QString& name = {});
+                   const person::boxes& texts = {});
+/// The same, and the box that tells, as "title|text", that it was saved.
+void expect_saving(const char* dialog_class, const QString& step, const QString& caption,
+                   const person::boxes& texts, const QString& saved,
+                   QMessageBox::StandardButton answer = QMessageBox::No);
+/// Expects a dialog that `fill` fills so that these boxes read as `filled`, joined by "|", and the
+/// box that tells it was `saved`, from which it goes on to what `next` expects.
+void expect_filled(const char* dialog_class, const QString& step, const person::answer& fill,
+                   const QStringList& boxes, const QString& filled, const QString& saved,
+                   const std::function<void()>& next = {});
+/// Clicks a button that opens a picker and takes the row so many below the first.
+void pick(const QWidget& dialog, const QString& button, const QString& step, const QString& caption,
+          int downs = 0);
+void expect_login(const QString& step, const QString& password,
+                  const QString& name = QStringLiteral("valdrine"));
+/// A step: the list in front, from a row on, and the database show the same.
+void see_rows(const QString& step, const QString& expected, const frmMain& window, int last,
+              const QString& statement, int row = 0);
 
 } // namespace visitor
