@@ -13,6 +13,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -51,17 +52,23 @@ void expect_phrase(const QString& text, bool is_typed = false) {
 
 /// Does not wait for an answer to what was taken before the link was up. Ends the process when the
 /// link is in error, which only a new start mends.
-void watch(dispatch_engine& engine) {
+void watch(dispatch_engine& engine, QTimer& timer) {
+    const auto is_up = [&engine] {
+        return engine.Winsock1.State() == Winsock::StateEnum::connected;
+    };
     static bool unanswerable = !engine.sendready();
-    const auto state = engine.Winsock1.State();
-    const bool up = state == Winsock::StateEnum::connected;
-    if (up && unanswerable) {
-        emit engine.Timer2.Timer();
-    }
-    unanswerable = !up && !engine.sendready();
-    if (state == Winsock::StateEnum::error) {
-        std::_Exit(EXIT_FAILURE);
-    }
+    QObject::connect(&engine.Timer1, &IntervalTimer::Timer, &timer, [&engine, is_up] {
+        unanswerable = unanswerable || (!is_up() && !engine.sendready());
+    });
+    timer.callOnTimeout(&engine, [&engine, is_up] {
+        if (is_up() && std::exchange(unanswerable, false)) {
+            emit engine.Timer2.Timer();
+        }
+        if (engine.Winsock1.State() == Winsock::StateEnum::error) {
+            std::_Exit(EXIT_FAILURE);
+        }
+    });
+    timer.start(1);
 }
 
 } // namespace
@@ -93,8 +100,7 @@ int main(int argc, char* argv[]) {
     window.engine().Timer1.set_Interval(100);
     window.engine().Timer2.set_Interval(job.toInt());
     QTimer watcher;
-    watcher.callOnTimeout(&window, [&window] { watch(window.engine()); });
-    watcher.start(1);
+    watch(window.engine(), watcher);
     if (arguments.size() > 3) {
         expect_phrase(arguments.at(3));
         person::choose(window, u"mnuCreTech"_s);
