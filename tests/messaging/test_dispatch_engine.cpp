@@ -215,8 +215,7 @@ private slots:
         QVERIFY(s.engine.Timer1.Enabled() && s.engine.Timer1.Interval() == 60000);
         QCOMPARE(s.engine.Timer2.Interval(), 10000);
         s.engine.startTimer();
-        QCOMPARE(s.engine.Timer1.Interval(), 2000);
-        QCOMPARE(s.engine.Timer2.Interval(), 60000);
+        QVERIFY(s.engine.Timer1.Interval() == 2000 && s.engine.Timer2.Interval() == 60000);
         s.play_all(u"poll linked a"_s);
         s.engine.Timer1.set_Interval(1);
         s.play(u">a"_s);
