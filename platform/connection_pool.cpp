@@ -8,7 +8,6 @@
 
 #include <QCoreApplication>
 #include <QHash>
-#include <QPointer>
 #include <QTimer>
 
 #include <vector>
@@ -22,22 +21,19 @@ QHash<QString, std::shared_ptr<idle_list>>& idle_connections() {
     return connections;
 }
 
-/// Every write starts the count anew. A log that is folded in the midst of a run of messages must
-/// grow from nothing again, and a growing file makes each commit dearer.
+/// Long enough that a run of messages or saves hardly pays for it.
 constexpr int fold_delay_ms = 1000;
 
 void fold_logs_later() {
-    QCoreApplication* application = QCoreApplication::instance();
-    if (application == nullptr) {
+    static bool scheduled = false;
+    if (scheduled || QCoreApplication::instance() == nullptr) {
         return;
     }
-    static QPointer<QTimer> pause;
-    if (pause == nullptr) {
-        pause = new QTimer(application);
-        pause->setSingleShot(true);
-        pause->callOnTimeout(&connection_pool::fold_logs);
-    }
-    pause->start(fold_delay_ms);
+    scheduled = true;
+    QTimer::singleShot(fold_delay_ms, QCoreApplication::instance(), [] {
+        scheduled = false;
+        connection_pool::fold_logs();
+    });
 }
 
 /// Back into the idle list; a connection that cannot be brought back to rest is closed instead.
