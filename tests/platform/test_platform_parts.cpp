@@ -24,8 +24,10 @@ private slots:
             QVERIFY2(error_of([&] { return to_int16(value); }), qPrintable(value.toString()));
         }
         QCOMPARE(to_datetime(u"2024/2/29 7:8"_s), to_datetime(u" 2024-02-29 07:08:00 "_s));
-        for (const QString& text : {u"2024/01-31"_s, u"24/01/31"_s, u"2024/01/31 08:00:00x"_s,
-                                    u"2024/01/31 08:00:"_s, u"2024/01/31\t08:00"_s, u""_s}) {
+        for (const QString& text :
+             {u"2023/02/29"_s, u"2024/01-31"_s, u"2024/01/31 24:00:00"_s, u"24/01/31"_s,
+              u"2024/01/31 08:00:00x"_s, u"2024/01/31 08:00:"_s, u"2024/01/31 T"_s,
+              u"2024/01/31\t08:00"_s, u""_s}) {
             QVERIFY2(error_of([&] { return to_datetime(text); }), qPrintable(text));
         }
     }
