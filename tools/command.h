@@ -14,7 +14,7 @@ class QCommandLineParser;
 /// What the program's exit status says.
 namespace exit_status {
 inline constexpr int clean = 0;
-inline constexpr int findings = 1; ///< `check` found something
+inline constexpr int findings = 1; ///< `check` found something, an import something to report
 inline constexpr int unusable = 2; ///< nothing was done: wrong usage, or the file cannot be used
 } // namespace exit_status
 
@@ -27,7 +27,7 @@ public:
 /// A command as the table in main holds it.
 struct command {
     QString name;
-    QString summary;  ///< its line in `smsdb --help`
+    QString summary;  ///< its line in `smsdb --help`; none for what only this program itself runs
     QStringView help; ///< the whole text of `smsdb NAME --help`
     qsizetype operands = 1;
     QList<QCommandLineOption> options;
@@ -40,3 +40,5 @@ struct command {
 [[nodiscard]] command create_command();
 [[nodiscard]] command backup_command();
 [[nodiscard]] command archive_command();
+[[nodiscard]] command import_command();
+[[nodiscard]] command read_old_command();

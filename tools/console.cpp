@@ -5,6 +5,7 @@
 
 #include "platform/data_error.h"
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -40,4 +41,15 @@ QString some_of(const QStringList& items) {
     constexpr qsizetype enough = 8;
     const QString shown = items.first(qMin(enough, items.size())).join(u", "_s);
     return items.size() > enough ? shown + u", …"_s : shown;
+}
+
+QString shown(const QString& text) {
+    constexpr qsizetype longest = 40;
+    return u"\"%1\""_s.arg(harmless(text.size() > longest ? text.left(longest) + u'…' : text));
+}
+
+QString harmless(QString text) {
+    const auto steers = [](QChar c) { return c.category() == QChar::Other_Control; };
+    std::replace_if(text.begin(), text.end(), steers, u'?');
+    return text;
 }

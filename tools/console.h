@@ -19,3 +19,9 @@ void complain(const QString& what);
 
 /// The first few of a long list, as a text.
 [[nodiscard]] QString some_of(const QStringList& items);
+
+/// A text from a file as a report shows it: between quotes, a long one cut.
+[[nodiscard]] QString shown(const QString& text);
+
+/// The text as one line, without characters that would steer a terminal.
+[[nodiscard]] QString harmless(QString text);

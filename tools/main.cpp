@@ -18,15 +18,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto& commands() {
-    static const std::array all{check_command(), create_command(), backup_command(),
-                                archive_command()};
+    static const std::array all{check_command(),   create_command(), backup_command(),
+                                archive_command(), import_command(), read_old_command()};
     return all;
 }
 
 QString overview() {
     QString text = u"Usage: smsdb COMMAND …\n\nLooks after the database of an office.\n\n"_s;
     for (const command& offered : commands()) {
-        text += u"  %1 %2\n"_s.arg(offered.name, -8).arg(offered.summary);
+        if (!offered.summary.isEmpty()) {
+            text += u"  %1 %2\n"_s.arg(offered.name, -8).arg(offered.summary);
+        }
     }
     return text +
            u"\nsmsdb COMMAND --help tells how a command is used; smsdb --version the version.\n"_s;

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/connection_pool.h"
+#include "tests/tools/smsdb_shell.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// An old value as the schema holds it.
+QJsonValue carried(const QJsonValue& value, const QJsonValue& column) {
+    const QString name = column[u"name"].toString();
+    if (value.isBool() || (value.isNull() && (name == u"isall" || name == u"readed"))) {
+        return value.toBool() ? -1 : 0;
+    }
+    const bool is_moment = column[u"type"] == u"date/time"_s && !value.isNull();
+    return is_moment ? value.toString().replace(u'-', u'/') : value;
+}
+
+// The query for a table as rows of JSON, and what it should give.
+std::pair<QString, QStringList> old_rows(const QString& table, const QJsonObject& content) {
+    const QString with_columns = u"v_smsm v_cusclass v_customer v_sendsms"_s;
+    const bool is_view = table.startsWith(u"view");
+    QStringList names;
+    QStringList rows;
+    for (const auto& row : content[u"rows"].toArray()) {
+        QJsonArray values;
+        names.clear();
+        for (const auto& column : content[u"columns"].toArray()) {
+            values.append(carried(row[values.size()], column));
+            names.append(column[u"name"].toString());
+        }
+        if (!is_view || with_columns.contains(values.first().toString())) {
+            rows.append(QString::fromUtf8(QJsonDocument(values).toJson(QJsonDocument::Compact)));
+        }
+    }
+    rows.sort();
+    const QString query = u"select json_array(%1) from %2"_s.arg(names.join(u','), table);
+    return {is_view ? query + u" where instr('%1',ViewNo)"_s.arg(with_columns) : query, rows};
+}
+
+} // namespace
+
+class test_import : public QObject, private smsdb_shell {
+    Q_OBJECT
+
+private slots:
+    void init() { database_.emplace(); }
+
+    void carries_every_row() {
+        for (const auto& old : {u"jet3-small"_s, u"jet4-small"_s}) {
+            connection_pool::clear();
+            QCOMPARE(run(u"rm -f FILE*; smsdb import $FIXTURES/%1.mdb FILE"_s.arg(old)), 1);
+            QVERIFY2(told_.contains("viewdef 11: \"v_old\" is no list"), told_);
+            QVERIFY(told_.contains("viewdef 4: \"v_group\" has no columns"));
+            QFile file(u"" FIXTURES "/%1.json"_s.arg(old));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QJsonObject tables = QJsonDocument::fromJson(file.readAll()).object();
+            QCOMPARE(tables.size(), 14);
+            for (auto table = tables.begin(); table != tables.end(); ++table) {
+                const auto& [query, expected] = old_rows(table.key(), table->toObject());
+                QStringList rows = test_database::rows(query);
+                rows.sort();
+                QCOMPARE(rows, expected);
+            }
+            QCOMPARE(test_database::value(u"select count(distinct ViewNo) from viewitems"_s), 10);
+            test_database::execute(u"insert into customer (cname) values ('next')"_s);
+            QCOMPARE(test_database::value(u"select max(cid) from customer"_s), 17);
+        }
+    }
+
+    void survives_damage_data() {
+        QTest::addColumn<QString>("told");
+        const auto row = [](const QString& damage, const QString& told) {
+            QTest::newRow(qPrintable(damage)) << told;
+        };
+        row(u": >DIR/old"_s, u"is no database of the old format"_s);
+        row(u"echo text >DIR/old"_s, u"is no database of the old format"_s);
+        row(u"truncate -s $(($(stat -c %s DIR/old) / 2)) DIR/old"_s, u"its end is missing"_s);
+        row(u"truncate -s -PAGE DIR/old"_s, u"row(s) where there should be"_s);
+        row(u"dd if=/dev/zero of=DIR/old bs=PAGE seek=2 count=1 conv=notrunc"_s, u"is damaged"_s);
+        const QString edit = u"perl -0777 -pi -e '%1' DIR/old"_s;
+        row(edit.arg(uR"(s/\x0f\0\0\0((\xff\xfe)?plain)/\xff\xff\0\0$1/)"_s),
+            u"not carried: smsmodels 65535: its number"_s);
+        row(edit.arg(uR"(s/\xc3\x22\0\0/\x70\x11\x01\0/)"_s),
+            u"parameters.port 1: \"70000\" is no"_s);
+        const QString knot =
+            u"for $p (1 .. length() / PAGE - 1) { $at = $p * PAGE; substr($_, $at + 4, 4) eq \"LVAL\" and substr($_, $at + (0x1fff & unpack \"v\", substr($_, $at + (PAGE == 2048 ? 10 : 14))), 4) = pack \"V\", $p << 8 }"_s;
+        row(edit.arg(knot), u"9, 14: cannot be read\n"_s);
+        const QString flips = u"srand %1; substr($_, rand length, 1) = chr rand 256 for 1 .. 200"_s;
+        for (int seed = 1; seed <= 10; ++seed) {
+            row(edit.arg(flips.arg(seed)), {});
+        }
+    }
+
+    void survives_damage() {
+        QFETCH(QString, told);
+        QString damage = QString::fromUtf8(QTest::currentDataTag());
+        for (const auto& [jet, page] : {std::pair{u"3"_s, u"2048"_s}, {u"4"_s, u"4096"_s}}) {
+            run(u"rm FILE*; cp $FIXTURES/jet%1-small.mdb DIR/old; "_s.arg(jet) +
+                QString(damage).replace(u"PAGE"_s, page));
+            const int status = run(u"smsdb import DIR/old FILE"_s);
+            QVERIFY2(told_.contains(told.toUtf8()), told_);
+            QVERIFY(status == 1 || (status == 2 && told_.startsWith("smsdb: ")));
+            QCOMPARE(run(u"test $(ls DIR | wc -l) = %1"_s.arg(3 - status)), 0);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(test_import)
+#include "test_import.moc"

@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "data/schema.h"
+#include "platform/data_error.h"
+#include "platform/sqlite_database.h"
+#include "tools/command.h"
+#include "tools/console.h"
+#include "tools/losses.h"
+#include "tools/new_file.h"
+#include "tools/old_records.h"
+#include "tools/old_views.h"
+#include "tools/query.h"
+#include "tools/table_filler.h"
+
+#include <QCommandLineParser>
+#include <QMap>
+#include <QStringDecoder>
+
+#include <algorithm>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView help = uR"(Usage: smsdb import [--charset NAME] OLD.mdb NEW
+
+Makes the database NEW from OLD.mdb, a database of the old format (Jet 3 or Jet 4, as Access 97 to 2003
+write them). OLD.mdb is only read. NEW must not exist; it appears when everything is in it.
+
+  --charset NAME   what the texts of a Jet 3 file are written in (default: GBK, which is code page 936)
+
+Tables and columns are matched by name without regard to case. A table that is missing or empty in
+OLD.mdb is that of a fresh database: so are the functions, the gateway parameters, the first operator
+with an empty password. Numbers of rows stay, and new rows are numbered on from the highest. Moments
+become yyyy/mm/dd hh:mm:ss, Yes/No becomes -1/0 (1/0 for messages read). The definition of a list takes
+the place of the delivered one when it is one of this system's lists and has a column.
+
+What cannot be carried is reported, a line each with the numbers of the rows (rows without a number
+are counted as they stand in the file):
+  - a row whose number is above 32767, missing, or given twice is left out
+  - any other number that does not fit is carried as 0, a date that cannot be read as empty
+  - a message without a readable mark of having been sent counts as sent
+  - tables and columns that this system does not have are left out
+A text with an apostrophe is carried as it is, though the client refuses to save one.
+
+A damaged file is refused as a whole: let Access compact and repair it, or use an older copy.
+
+Exit status: 0 all carried; 1 made, with losses; 2 not made.
+)";
+
+/// The import of one old database into a fresh one.
+class importer {
+public:
+    explicit importer(SqliteDatabase& database) : database_(database) {}
+
+    void run(old_records& records);
+    [[nodiscard]] const losses& lost() const { return lost_; }
+    [[nodiscard]] QString report() const;
+
+private:
+    struct counts {
+        qint64 read = 0;
+        qint64 written = 0;
+    };
+
+    void begin_table(const old_records::record& table);
+    void take_row(const QJsonArray& row);
+    void finish_table();
+    void report_missing();
+
+    SqliteDatabase& database_;
+    losses lost_;
+    QMap<QString, counts> counts_; ///< of the tables that the old database has, by our names
+    QString table_;                ///< the one that rows come for, by our name or, unknown, its own
+    qint64 unknown_rows_ = 0;
+    std::optional<table_filler> filler_; ///< none for an unknown table
+};
+
+QStringList tables_of(SqliteDatabase& database) {
+    return query_column(
+        database,
+        u"SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%' ORDER BY rowid"_s);
+}
+
+void importer::begin_table(const old_records::record& table) {
+    table_ = table.table;
+    unknown_rows_ = 0;
+    const QStringList ours = tables_of(database_);
+    const auto known = std::find_if(ours.cbegin(), ours.cend(), [&table](const QString& name) {
+        return name.compare(table.table, Qt::CaseInsensitive) == 0;
+    });
+    if (known == ours.cend()) {
+        return;
+    }
+    table_ = *known;
+    if (counts_.contains(table_)) {
+        throw failure(u"the old database is damaged: it has two tables %1"_s.arg(table_));
+    }
+    counts_.insert(table_, {});
+    const QString target = old_views::hold(table_) ? old_views::waiting_place(table_) : table_;
+    filler_.emplace(database_, lost_, table_, target, table.columns);
+}
+
+void importer::take_row(const QJsonArray& row) {
+    if (!filler_) {
+        ++unknown_rows_;
+        return;
+    }
+    if (filler_->rows_read() == 0 && !old_views::hold(table_)) {
+        // Those of the fresh office, and their numbering with them.
+        database_.execute(u"DELETE FROM "_s + table_);
+        database_.execute(u"DELETE FROM sqlite_sequence WHERE name = '%1'"_s.arg(table_));
+    }
+    filler_->take(row);
+}
+
+void importer::finish_table() {
+    if (filler_) {
+        counts_[table_] = {filler_->rows_read(), filler_->rows_written()};
+        filler_.reset();
+    } else if (!table_.isEmpty()) {
+        lost_.add(u"table %1"_s.arg(table_),
+                  u"this system has no such table (%1 row(s))"_s.arg(unknown_rows_));
+    }
+}
+
+/// A table that the old program cannot have worked without is not missed in silence.
+void importer::report_missing() {
+    for (const QString& table :
+         {u"smsmodels"_s, u"cusclass"_s, u"customer"_s, u"parameters"_s, u"cgroup"_s, u"sendsms"_s,
+          u"recvedsms"_s, u"gsendsms"_s, u"users"_s, u"rights"_s}) {
+        if (!counts_.contains(table)) {
+            lost_.add(u"table %1"_s.arg(table), u"the old database has none"_s);
+        }
+    }
+}
+
+void importer::run(old_records& records) {
+    database_.execute(u"BEGIN"_s);
+    old_views::make_waiting_places(database_);
+    for (;;) {
+        const old_records::record found = records.next();
+        if (found.kind == old_records::record::Kind::row) {
+            take_row(found.values);
+            continue;
+        }
+        finish_table();
+        if (found.kind == old_records::record::Kind::end) {
+            break;
+        }
+        begin_table(found);
+    }
+    report_missing();
+    old_views::put_in_place(database_, lost_);
+    database_.execute(u"COMMIT"_s);
+}
+
+QString importer::report() const {
+    const QString line = u"%1%2%3\n"_s;
+    QString text = line.arg(u"table"_s, -12).arg(u"read"_s, 8).arg(u"written"_s, 10);
+    for (const QString& table : tables_of(database_)) {
+        const counts counted = counts_.value(table);
+        const bool is_fresh = counted.read == 0;
+        const qint64 written =
+            old_views::hold(table) ? old_views::carried_rows(database_, table) : counted.written;
+        text += line.arg(table, -12)
+                    .arg(counts_.contains(table) ? QString::number(counted.read) : u"none"_s, 8)
+                    .arg(is_fresh ? u"fresh"_s : QString::number(written), 10);
+    }
+    text += u'\n' + lost_.lines();
+    const qint64 waiting = query_number(
+        database_, u"SELECT count(*) FROM sendsms WHERE sendisok = 0 AND stime IS NOT NULL"_s);
+    if (waiting > 0) {
+        text +=
+            u"%1 message(s) wait to be sent; the next client that starts with the gateway sends those that are due\n"_s
+                .arg(waiting);
+    }
+    return text;
+}
+
+void refuse_charset(const QString& charset) {
+    if (!QStringDecoder(charset.toLatin1().constData()).isValid()) {
+        throw failure(u"--charset %1: unknown (see smsdb import --help)"_s.arg(charset));
+    }
+}
+
+int run(const QCommandLineParser& arguments) {
+    const QString old = arguments.positionalArguments().at(0);
+    const QString place = arguments.positionalArguments().at(1);
+    const QString charset = arguments.value(u"charset"_s);
+    refuse_charset(charset);
+    new_file made(place);
+    QString report;
+    bool is_whole = false;
+    try {
+        make_database(made.path());
+        SqliteDatabase database(made.path());
+        old_records records(old, charset);
+        importer importing(database);
+        importing.run(records);
+        report = importing.report();
+        is_whole = importing.lost().isEmpty();
+        // Then it needs no log beside it until a client opens it.
+        database.execute(u"PRAGMA journal_mode=DELETE"_s);
+    } catch (const DataError& error) {
+        throw failure(describe(error, place));
+    }
+    made.put_in_place();
+    print(report + u"imported %1 to %2\n"_s.arg(old, place));
+    return is_whole ? exit_status::clean : exit_status::findings;
+}
+
+} // namespace
+
+command import_command() {
+    return {u"import"_s,
+            u"make a database from one of the old format"_s,
+            help,
+            2,
+            {QCommandLineOption(u"charset"_s, {}, u"name"_s, u"GBK"_s)},
+            run};
+}

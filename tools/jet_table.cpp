@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tools/jet_table.h"
+
+#include "tools/command.h"
+
+#include <QDateTime>
+#include <QJsonObject>
+#include <QtEndian>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int deleted_or_moved_away = 0x4000;
+constexpr int deleted_or_moved_here = 0x8000;
+constexpr int offset_mask = 0x1fff;
+
+QJsonValue unreadable() {
+    return QJsonObject();
+}
+
+template <class number>
+QJsonValue number_in(QByteArrayView bytes) {
+    if (bytes.size() != sizeof(number)) {
+        return unreadable();
+    }
+    const auto read = static_cast<double>(qFromLittleEndian<number>(bytes.data()));
+    return std::isfinite(read) ? QJsonValue(read) : unreadable();
+}
+
+/// The whole part counts days, the rest is the time of day, also before the first day.
+QJsonValue moment_in(QByteArrayView bytes) {
+    constexpr double seconds_a_day = 86400;
+    const double stored = number_in<double>(bytes).toDouble(qQNaN());
+    const double days = std::trunc(stored);
+    const double second = std::round(std::abs(stored - days) * seconds_a_day);
+    if (!(std::abs(days) < 4'000'000)) {
+        return unreadable();
+    }
+    const QDateTime moment =
+        QDateTime(QDate(1899, 12, 30).addDays(static_cast<qint64>(days)), QTime(0, 0), Qt::UTC)
+            .addSecs(static_cast<qint64>(second));
+    if (moment.date().year() < 100 || moment.date().year() > 9999) {
+        return unreadable();
+    }
+    return moment.toString(second == 0 ? u"yyyy/MM/dd"_s : u"yyyy/MM/dd HH:mm:ss"_s);
+}
+
+} // namespace
+
+jet_table::jet_table(jet_file& file, const jet_file::table& which)
+    : file_(file), entry_(std::make_unique<MdbCatalogEntry>()) {
+    entry_->mdb = file.handle();
+    entry_->object_type = MDB_TABLE;
+    entry_->table_pg = which.page;
+    qstrncpy(static_cast<char*>(entry_->object_name), which.name.toUtf8().constData(),
+             sizeof(entry_->object_name));
+    table_.reset(mdb_read_table(entry_.get()));
+    if (table_ == nullptr || mdb_read_columns(table_.get()) == nullptr ||
+        table_->columns->len != table_->num_cols) {
+        refuse(u"its columns cannot be read"_s);
+    }
+}
+
+void jet_table::refuse(const QString& what) const {
+    throw failure(u"is damaged: table %1: %2"_s.arg(
+        QString::fromUtf8(static_cast<const char*>(entry_->object_name)), what));
+}
+
+std::span<MdbColumn* const> jet_table::column_list() const {
+    return {reinterpret_cast<MdbColumn**>(table_->columns->pdata), table_->columns->len};
+}
+
+QStringList jet_table::columns() const {
+    QStringList names;
+    for (const MdbColumn* column : column_list()) {
+        names.append(QString::fromUtf8(static_cast<const char*>(column->name)));
+    }
+    return names;
+}
+
+void jet_table::for_each_place(const std::function<void(int row, const place&)>& take) {
+    mdb_rewind_table(table_.get());
+    while (mdb_read_next_dpg(table_.get()) != 0) {
+        MdbHandle* handle = file_.handle();
+        const int rows = mdb_get_int16(static_cast<unsigned char*>(handle->pg_buf),
+                                       handle->fmt->row_count_offset);
+        for (int row = 0; row < rows; ++row) {
+            place found;
+            if (mdb_find_row(handle, row, &found.start, &found.length) != 0) {
+                refuse(u"a row cannot be found"_s);
+            }
+            const int flags = found.start;
+            found.start &= offset_mask;
+            found.has_moved_here = (flags & deleted_or_moved_here) != 0;
+            found.has_moved_away = (flags & deleted_or_moved_away) != 0;
+            if (!found.has_moved_here || !found.has_moved_away) { // both: deleted
+                take(row, found);
+            }
+        }
+    }
+}
+
+/// Where the rows stand now that have outgrown their page. What moved and was deleted then, or has
+/// moved on, lies about looking just the same.
+QSet<quint32> jet_table::moved_rows() {
+    QSet<quint32> targets;
+    for_each_place([this, &targets](int /*row*/, const place& found) {
+        if (found.has_moved_away) {
+            if (found.length < 4) {
+                refuse(u"a row that was moved cannot be found"_s);
+            }
+            targets.insert(qFromLittleEndian<quint32>(&file_.handle()->pg_buf[found.start]));
+        }
+    });
+    return targets;
+}
+
+void jet_table::for_each_row(const std::function<void(const QJsonArray&)>& take) {
+    const QSet<quint32> moved = moved_rows();
+    unsigned int rows = 0;
+    for_each_place([&](int row, const place& found) {
+        const quint32 here = (table_->cur_phys_pg << 8) | static_cast<quint32>(row);
+        if (found.has_moved_away || (found.has_moved_here && !moved.contains(here))) {
+            return;
+        }
+        take(row_at(found));
+        ++rows;
+    });
+    if (rows != table_->num_rows) {
+        refuse(u"%1 row(s) where there should be %2"_s.arg(rows).arg(table_->num_rows));
+    }
+}
+
+QJsonArray jet_table::row_at(const place& found) {
+    std::vector<MdbField> fields(table_->num_cols);
+    const int there = mdb_crack_row(table_.get(), found.start, found.length, fields.data());
+    if (there != static_cast<int>(fields.size())) {
+        refuse(u"a row cannot be read"_s);
+    }
+    QJsonArray row;
+    for (const MdbField& field : fields) {
+        const MdbColumn& column = *column_list()[static_cast<size_t>(field.colnum)];
+        const bool has_bytes = field.is_null == 0 && column.col_type != MDB_BOOL;
+        if (has_bytes && (field.siz < 0 || field.start < found.start ||
+                          field.start + field.siz > found.start + static_cast<int>(found.length))) {
+            refuse(u"a row cannot be read"_s);
+        }
+        row.append(value(column, field));
+    }
+    return row;
+}
+
+QJsonValue jet_table::value(const MdbColumn& column, const MdbField& field) {
+    if (column.col_type == MDB_BOOL) { // its value stands in place of the mark for Null
+        return field.is_null == 0;
+    }
+    if (field.is_null != 0) {
+        return {};
+    }
+    const QByteArrayView bytes(&file_.handle()->pg_buf[field.start], field.siz);
+    const auto text_or_not = [](const std::optional<QString>& text) {
+        return text ? QJsonValue(*text) : unreadable();
+    };
+    switch (column.col_type) {
+    case MDB_BYTE:
+        return number_in<quint8>(bytes);
+    case MDB_INT:
+        return number_in<qint16>(bytes);
+    case MDB_LONGINT:
+        return number_in<qint32>(bytes);
+    case MDB_FLOAT:
+        return number_in<float>(bytes);
+    case MDB_DOUBLE:
+        return number_in<double>(bytes);
+    case MDB_DATETIME:
+        return moment_in(bytes);
+    case MDB_TEXT:
+        return text_or_not(file_.text(bytes));
+    case MDB_MEMO:
+        return text_or_not(file_.long_text(bytes));
+    default:
+        return unreadable();
+    }
+}

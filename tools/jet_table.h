@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "tools/jet_file.h"
+
+#include <QJsonArray>
+#include <QSet>
+#include <QStringList>
+
+#include <functional>
+#include <span>
+
+/// One table of a Jet file: its columns, and its rows as they stand.
+class jet_table {
+public:
+    /// Reads the definition. Throws failure when it is damaged.
+    jet_table(jet_file& file, const jet_file::table& which);
+
+    [[nodiscard]] QStringList columns() const;
+
+    /// Every row once: Null, truth values, numbers and texts, one a column; a moment is a text
+    /// "yyyy/mm/dd", the time of day behind it unless that is midnight; what cannot be read is an
+    /// empty object. Throws failure when rows are damaged or there are not as many as there should
+    /// be.
+    void for_each_row(const std::function<void(const QJsonArray&)>& take);
+
+private:
+    /// A row on the page that is in the handle's buffer.
+    struct place {
+        int start = 0;
+        size_t length = 0;
+        bool has_moved_here = false;
+        bool has_moved_away = false;
+    };
+
+    void for_each_place(const std::function<void(int row, const place&)>& take);
+    [[nodiscard]] QSet<quint32> moved_rows();
+    [[nodiscard]] QJsonArray row_at(const place& found);
+    [[nodiscard]] QJsonValue value(const MdbColumn& column, const MdbField& field);
+    [[nodiscard]] std::span<MdbColumn* const> column_list() const;
+    [[noreturn]] void refuse(const QString& what) const;
+
+    struct deleter {
+        void operator()(MdbTableDef* table) const noexcept { mdb_free_tabledef(table); }
+    };
+    jet_file& file_;
+    std::unique_ptr<MdbCatalogEntry> entry_;
+    std::unique_ptr<MdbTableDef, deleter> table_;
+};

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tools/old_records.h"
+
+#include "tools/command.h"
+#include "tools/console.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 longest_line = 0x4000000;
+/// No sound file grows more than this by being written as text, however many Nulls it holds.
+constexpr qint64 growth = 32;
+
+bool is_value(const QJsonValue& value) {
+    return !value.isArray() && (!value.isObject() || value.toObject().isEmpty());
+}
+
+} // namespace
+
+old_records::old_records(const QString& path, const QString& charset)
+    : path_(path), allowance_(longest_line + growth * QFileInfo(path).size()) {
+    reader_.setStandardInputFile(QProcess::nullDevice());
+    reader_.setStandardErrorFile(QProcess::nullDevice());
+    reader_.start(QCoreApplication::applicationFilePath(),
+                  {u"read-old"_s, u"--charset"_s, charset, QFileInfo(path).absoluteFilePath()},
+                  QIODevice::ReadOnly);
+}
+
+old_records::~old_records() {
+    reader_.kill();
+    reader_.waitForFinished();
+}
+
+void old_records::refuse(const QString& reason) const {
+    throw failure(u"%1: %2"_s.arg(path_, reason));
+}
+
+QJsonArray old_records::next_line() {
+    QByteArray line;
+    while (!line.endsWith('\n')) {
+        if (!reader_.canReadLine() && reader_.bytesAvailable() == 0 &&
+            !reader_.waitForReadyRead(-1)) {
+            refuse(u"is damaged: reading it came to no good end"_s);
+        }
+        line += reader_.readLine(longest_line);
+        if (line.size() >= longest_line) {
+            break;
+        }
+    }
+    allowance_ -= line.size();
+    QJsonArray fields = QJsonDocument::fromJson(line).array();
+    if (fields.isEmpty() || allowance_ < 0) {
+        refuse(u"is damaged: reading it gives no sense"_s);
+    }
+    return fields;
+}
+
+old_records::record old_records::next() {
+    QJsonArray fields = next_line();
+    const QString kind = fields.takeAt(0).toString();
+    const bool are_texts = std::all_of(fields.cbegin(), fields.cend(),
+                                       [](const QJsonValue& field) { return field.isString(); });
+    if (kind == u"end" && fields.isEmpty()) {
+        return {};
+    }
+    if (kind == u"failed" && fields.size() == 1 && are_texts) {
+        refuse(harmless(fields.first().toString()));
+    }
+    if (kind == u"table" && !fields.isEmpty() && are_texts) {
+        current_ = {record::Kind::table, fields.takeAt(0).toString(), {}, {}};
+        for (const auto& name : std::as_const(fields)) {
+            current_.columns.append(name.toString());
+        }
+        return current_;
+    }
+    if (kind != u"row" || fields.size() != current_.columns.size() || fields.isEmpty() ||
+        !std::all_of(fields.cbegin(), fields.cend(), is_value)) {
+        refuse(u"is damaged: reading it gives no sense"_s);
+    }
+    current_.kind = record::Kind::row;
+    current_.values = fields;
+    return current_;
+}

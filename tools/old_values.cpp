@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tools/old_values.h"
+
+#include "data/fmtdatetime.h"
+#include "platform/conversion.h"
+#include "platform/data_error.h"
+#include "tools/console.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Whatever the type was, as a text.
+QString text_of(const QJsonValue& value) {
+    if (value.isBool()) {
+        return value.toBool() ? u"-1"_s : u"0"_s;
+    }
+    return value.isDouble() ? QString::number(value.toDouble(), 'g', 15) : value.toString();
+}
+
+/// The ways in which a Chinese desktop writes a moment, as the ways that this system reads.
+QDateTime read_free_moment(QString text) {
+    constexpr qint64 half_a_day = 43200;
+    static const QRegularExpression half_day(u"(上午|下午|AM|PM)"_s,
+                                             QRegularExpression::CaseInsensitiveOption);
+    const QString half = half_day.match(text).captured().toUpper();
+    text.remove(half_day).replace(QRegularExpression(u"[年月.]"_s), u"-"_s).replace(u'日', u' ');
+    const QDateTime moment = read_datetime(text.simplified());
+    const int hour = moment.time().hour();
+    if (hour < 12 && (half == u"下午" || half == u"PM")) {
+        return moment.addSecs(half_a_day);
+    }
+    return hour == 12 && (half == u"上午" || half == u"AM") ? moment.addSecs(-half_a_day) : moment;
+}
+
+carried carry_truth(const QJsonValue& value, int yes) {
+    try {
+        return {to_boolean(text_of(value)) ? yes : 0, {}};
+    } catch (const DataError&) {
+        return {0, u"%1 is neither yes nor no"_s.arg(shown(text_of(value)))};
+    }
+}
+
+carried carry_number(const QJsonValue& value) {
+    try {
+        return {to_int16(text_of(value)), {}};
+    } catch (const DataError&) {
+        return {0, u"%1 is no whole number from -32768 to 32767"_s.arg(shown(text_of(value)))};
+    }
+}
+
+carried carry_moment(const QJsonValue& value) {
+    const QString text = text_of(value);
+    const QDateTime moment = read_free_moment(text);
+    if (moment.isValid()) {
+        return {fmtdatetime(moment), {}};
+    }
+    return {{}, text.trimmed().isEmpty() ? QString() : u"%1 is no date"_s.arg(shown(text))};
+}
+
+carried carry_text(const QJsonValue& value) {
+    QString text = text_of(value);
+    text.replace(QChar::Null, QChar::ReplacementCharacter);
+    const bool is_whole = !text.contains(QChar::ReplacementCharacter);
+    return {text, is_whole ? QString() : u"some of its characters cannot be read"_s};
+}
+
+} // namespace
+
+content content_of(const QString& column, const QString& type) {
+    static const QStringList flags{u"sendisok"_s, u"smsfrom"_s,  u"imsend"_s, u"isall"_s,
+                                   u"readonly"_s, u"isTwoS"_s,   u"CanSet"_s, u"ColMerge"_s,
+                                   u"Visible"_s,  u"CanFilter"_s};
+    static const QStringList moments{u"rtime"_s, u"stime"_s, u"optime"_s};
+    if (column == u"readed") {
+        return content::mark;
+    }
+    if (flags.contains(column, Qt::CaseInsensitive)) {
+        return content::flag;
+    }
+    if (moments.contains(column)) {
+        return content::moment;
+    }
+    return type == u"INTEGER" ? content::number : content::text;
+}
+
+carried carry(const QJsonValue& value, content wanted) {
+    if (value.isNull()) {
+        return {};
+    }
+    const bool takes_numbers = wanted != content::moment && wanted != content::text;
+    if (value.isObject()) {
+        return {takes_numbers ? QVariant(0) : QVariant(), u"cannot be read"_s};
+    }
+    switch (wanted) {
+    case content::number:
+        return carry_number(value);
+    case content::flag:
+        return carry_truth(value, -1);
+    case content::mark:
+        return carry_truth(value, 1);
+    case content::moment:
+        return carry_moment(value);
+    default:
+        return carry_text(value);
+    }
+}

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tools/old_views.h"
+
+#include "platform/sqlite_database.h"
+#include "tools/console.h"
+#include "tools/losses.h"
+#include "tools/query.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList& tables() {
+    static const QStringList both{u"viewdef"_s, u"viewitems"_s};
+    return both;
+}
+
+} // namespace
+
+bool old_views::hold(const QString& table) {
+    return tables().contains(table);
+}
+
+QString old_views::waiting_place(const QString& table) {
+    return u"temp.old_"_s + table;
+}
+
+void old_views::make_waiting_places(SqliteDatabase& database) {
+    for (const QString& table : tables()) {
+        database.execute(u"CREATE TEMP TABLE old_%1 AS SELECT * FROM %1 WHERE 0"_s.arg(table));
+    }
+}
+
+void old_views::put_in_place(SqliteDatabase& database, losses& lost) {
+    database.execute(
+        u"CREATE TEMP TABLE useless_viewdef AS SELECT rowid AS number, ViewNo AS view, CASE WHEN NOT EXISTS (SELECT 1 FROM viewdef WHERE ViewNo = d.ViewNo) THEN 'is no list of this system' WHEN NOT EXISTS (SELECT 1 FROM old_viewitems i WHERE i.ViewNo = d.ViewNo COLLATE NOCASE) THEN 'has no columns; the delivered definition stays' WHEN EXISTS (SELECT 1 FROM old_viewdef e WHERE e.ViewNo = d.ViewNo COLLATE NOCASE AND e.rowid < d.rowid) THEN 'is defined already' END AS reason FROM old_viewdef d WHERE reason IS NOT NULL"_s);
+    database.execute(
+        u"DELETE FROM old_viewdef WHERE rowid IN (SELECT number FROM useless_viewdef)"_s);
+    database.execute(
+        u"CREATE TEMP TABLE useless_viewitems AS SELECT rowid AS number, ViewNo AS view, 'its definition is not carried' AS reason FROM old_viewitems i WHERE NOT EXISTS (SELECT 1 FROM old_viewdef d WHERE d.ViewNo = i.ViewNo COLLATE NOCASE)"_s);
+    database.execute(
+        u"DELETE FROM old_viewitems WHERE rowid IN (SELECT number FROM useless_viewitems)"_s);
+    for (const QString& table : tables()) {
+        for (const QStringList& row :
+             query_rows(database, u"SELECT number, view, reason FROM useless_%1"_s.arg(table))) {
+            lost.add(table, u"%1 %2"_s.arg(shown(row.at(1)), row.at(2)), row.at(0).toLongLong());
+        }
+        const QString columns =
+            query_column(database,
+                         u"SELECT name FROM pragma_table_info('%1') WHERE pk = 0"_s.arg(table))
+                .join(u", "_s);
+        database.execute(
+            u"DELETE FROM %1 WHERE ViewNo IN (SELECT ViewNo FROM old_viewdef)"_s.arg(table));
+        database.execute(
+            u"INSERT INTO %1 (%2) SELECT %2 FROM old_%1 ORDER BY rowid"_s.arg(table, columns));
+    }
+}
+
+qint64 old_views::carried_rows(SqliteDatabase& database, const QString& table) {
+    return query_number(database, u"SELECT count(*) FROM old_%1"_s.arg(table));
+}

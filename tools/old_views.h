@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+class SqliteDatabase;
+class losses;
+
+/// The definitions of lists that an old database holds. They wait in tables of their own until it
+/// is known which can be used.
+namespace old_views {
+
+/// Whether the rows of a table are such definitions.
+[[nodiscard]] bool hold(const QString& table);
+
+/// The waiting place for the rows of `table`.
+[[nodiscard]] QString waiting_place(const QString& table);
+
+/// Makes both waiting places, empty.
+void make_waiting_places(SqliteDatabase& database);
+
+/// Puts those definitions in the delivered ones' place that define a list of this system and have
+/// a column at least; the others are lost. How many rows of `table` are then the old ones' is told
+/// by `carried_rows`.
+void put_in_place(SqliteDatabase& database, losses& lost);
+
+/// After put_in_place: how many rows of `table` come from the old database.
+[[nodiscard]] qint64 carried_rows(SqliteDatabase& database, const QString& table);
+
+} // namespace old_views

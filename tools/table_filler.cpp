@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tools/table_filler.h"
+
+#include "tools/inspection.h"
+#include "tools/query.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Tables whose rows mean nothing unless both numbers in them do.
+bool is_relation(const QString& table) {
+    return table == u"cgroup" || table == u"rights";
+}
+
+/// What stands where there must be a value. A message that may have been sent is never sent again.
+int fallback(const QString& column) {
+    return column == u"sendisok" ? -1 : 0;
+}
+
+} // namespace
+
+table_filler::table_filler(SqliteDatabase& database, losses& lost, const QString& table,
+                           const QString& target, const QStringList& old_columns)
+    : lost_(lost), table_(table) {
+    QSet<qsizetype> used;
+    QStringList names;
+    for (const QStringList& row : query_rows(
+             database,
+             u"SELECT name, type, pk, \"notnull\" FROM pragma_table_info('%1')"_s.arg(table))) {
+        column wanted{row.at(0), content_of(row.at(0), row.at(1)), row.at(2) != u"0",
+                      row.at(3) != u"0"};
+        for (qsizetype i = 0; i < old_columns.size(); ++i) {
+            if (old_columns.at(i).compare(wanted.name, Qt::CaseInsensitive) == 0) {
+                wanted.source = i;
+            }
+        }
+        if (wanted.source >= 0) {
+            used.insert(wanted.source);
+            names.append(wanted.name);
+            columns_.append(wanted);
+        }
+    }
+    for (qsizetype i = 0; i < old_columns.size(); ++i) {
+        if (!used.contains(i)) {
+            lost_.add(u"column %1.%2"_s.arg(table, old_columns.at(i)),
+                      u"this system has no such column"_s);
+        }
+    }
+    if (!names.isEmpty()) {
+        insertion_.emplace(
+            database, u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(
+                          target, names.join(u','), QStringList(names.size(), u"?"_s).join(u',')));
+    }
+}
+
+qint64 table_filler::number_of(const QJsonArray& row) const {
+    for (const column& wanted : columns_) {
+        const QJsonValue key = wanted.is_key ? row.at(wanted.source) : QJsonValue();
+        if (key.isDouble()) {
+            return static_cast<qint64>(key.toDouble());
+        }
+    }
+    return read_;
+}
+
+QString table_filler::objection(const QList<carried>& values, qint64 number) const {
+    for (qsizetype i = 0; i < values.size(); ++i) {
+        const carried& found = values.at(i);
+        if (!columns_.at(i).is_key) {
+            if (is_relation(table_) && !found.fault.isEmpty()) {
+                return found.fault;
+            }
+            continue;
+        }
+        if (!found.value.isValid()) {
+            return u"it has no number"_s;
+        }
+        if (!found.fault.isEmpty()) {
+            return u"its number is not one of those that a screen can hold, up to %1"_s.arg(
+                last_number);
+        }
+        if (numbers_.contains(number)) {
+            return u"its number is given twice"_s;
+        }
+    }
+    return table_ == u"parameters" && written_ > 0 ? u"only one row is ever used"_s : QString();
+}
+
+/// The values as they go into the table; what is not carried is added to the losses.
+QVariantList table_filler::accounted(const QList<carried>& values, qint64 number) {
+    QVariantList result;
+    for (qsizetype i = 0; i < values.size(); ++i) {
+        const column& wanted = columns_.at(i);
+        const carried& found = values.at(i);
+        if (!found.fault.isEmpty()) {
+            lost_.add(table_ + u'.' + wanted.name, found.fault, number);
+        }
+        const bool is_missing = !found.value.isValid() || !found.fault.isEmpty();
+        result.append(wanted.needs_value && is_missing ? QVariant(fallback(wanted.name))
+                                                       : found.value);
+    }
+    return result;
+}
+
+void table_filler::take(const QJsonArray& row) {
+    ++read_;
+    if (!insertion_) {
+        return; // every column has been reported
+    }
+    const qint64 number = number_of(row);
+    QList<carried> values;
+    for (const column& wanted : columns_) {
+        values.append(carry(row.at(wanted.source), wanted.takes));
+    }
+    const QString reason = objection(values, number);
+    if (!reason.isEmpty()) {
+        lost_.add(table_, reason, number);
+        return;
+    }
+    insertion_->run(accounted(values, number));
+    numbers_.insert(number);
+    ++written_;
+}

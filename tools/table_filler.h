@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "tools/bound_statement.h"
+#include "tools/losses.h"
+#include "tools/old_values.h"
+
+#include <QJsonArray>
+#include <QSet>
+#include <QStringList>
+
+#include <optional>
+
+/// A table of a fresh database as the rows of the old one's take the place of its own.
+class table_filler {
+public:
+    /// `old_columns` are matched by name without regard to case. The rows go into the table
+    /// `target`, which has the columns of `table`.
+    table_filler(SqliteDatabase& database, losses& lost, const QString& table,
+                 const QString& target, const QStringList& old_columns);
+
+    /// Puts a row in, or tells why not. Throws DataError.
+    void take(const QJsonArray& row);
+
+    [[nodiscard]] qint64 rows_read() const { return read_; }
+    [[nodiscard]] qint64 rows_written() const { return written_; }
+
+private:
+    struct column {
+        QString name;
+        content takes = content::text;
+        bool is_key = false;
+        bool needs_value = false;
+        qsizetype source = -1; ///< where it stands in an old row
+    };
+
+    /// Why the row cannot be carried; empty when it can.
+    [[nodiscard]] QString objection(const QList<carried>& values, qint64 number) const;
+    /// The number that a report names a row by: its key, or how many have been read.
+    [[nodiscard]] qint64 number_of(const QJsonArray& row) const;
+    [[nodiscard]] QVariantList accounted(const QList<carried>& values, qint64 number);
+
+    losses& lost_;
+    QString table_;
+    QList<column> columns_; ///< those that the old table has
+    std::optional<bound_statement> insertion_;
+    QSet<qint64> numbers_;
+    qint64 read_ = 0;
+    qint64 written_ = 0;
+};
