@@ -2,7 +2,7 @@
 
 build_packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n libsqlite3-dev mdbtools-dev
+    qt6-base-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n libsqlite3-dev libcsv-dev mdbtools-dev
     fonts-wqy-microhei fonts-dejavu-core
 )
 display_packages=(xvfb xauth openbox)

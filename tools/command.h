@@ -40,5 +40,7 @@ struct command {
 [[nodiscard]] command create_command();
 [[nodiscard]] command backup_command();
 [[nodiscard]] command archive_command();
+[[nodiscard]] command import_customers_command();
+[[nodiscard]] command export_customers_command();
 [[nodiscard]] command import_command();
 [[nodiscard]] command read_old_command();

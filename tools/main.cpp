@@ -18,8 +18,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto& commands() {
-    static const std::array all{check_command(),   create_command(), backup_command(),
-                                archive_command(), import_command(), read_old_command()};
+    static const std::array all{
+        check_command(),   create_command(),           backup_command(),
+        archive_command(), import_customers_command(), export_customers_command(),
+        import_command(),  read_old_command()};
     return all;
 }
 
@@ -27,7 +29,7 @@ QString overview() {
     QString text = u"Usage: smsdb COMMAND …\n\nLooks after the database of an office.\n\n"_s;
     for (const command& offered : commands()) {
         if (!offered.summary.isEmpty()) {
-            text += u"  %1 %2\n"_s.arg(offered.name, -8).arg(offered.summary);
+            text += u"  %1 %2\n"_s.arg(offered.name, -17).arg(offered.summary);
         }
     }
     return text +

@@ -112,6 +112,53 @@ private slots:
             QCOMPARE(run(u"test $(ls DIR | wc -l) = %1"_s.arg(3 - status)), 0);
         }
     }
+
+    void imports_customers_data() {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QString>("told");
+        QTest::addColumn<QString>("last"); // customer
+        const auto row = [](const char* csv, const char* options, const QString& told,
+                            const QString& last) {
+            QTest::newRow(csv) << QString::fromUtf8(options) << told << last;
+        };
+        const QString one = u"1 customer(s) added, 0"_s;
+        row("手机,姓名,备注\n 1,甲,\"a\nb, c\"", "", one, u"2|甲|1||||a\nb, c"_s);
+        row("\xca\xd6\xbb\xfa;name\n2;\xd2\xd2", "", one, u"2|乙|2||||"_s);
+        row("\ufeffMobile\tPhone\r\n3\t'=1", "", one, u"2||3|||=1|"_s);
+        row("mobile,memo\n4,\"a\nb\"\n\n ,y", "", u"line 5: left out: no"_s, u"2||4||||a\nb"_s);
+        row("mobile\n1.39E+10\n5", "", u"line 2: left out: the spread"_s, u"2||5||||"_s);
+        row("mobile\n5\n6'", "", u"line 3: left out: an apost"_s, u"2||5||||"_s);
+        row("mobile,sex\n1-3,男", "", u"line 2: skipped: customer 1 has"_s, u"1|旧|13||||"_s);
+        row("mobile,sex,name\n1-3,男,", "--duplicates update", u"1 updated"_s, u"1|旧|1-3|男|||"_s);
+        row("mobile\n5\n5", "--duplicates add", u"line 3: added again: cust"_s, u"3||5||||"_s);
+        row("mobile\n6", "--dry-run --class 新", u"changed: 1 customer(s)"_s, u"1|旧|13||||"_s);
+        row("mobile\n\"6", "", u"line 2: a quotation mark"_s, u"1|旧|13||||"_s);
+        row("name\n6", "", u"no heading names"_s, u"1|旧|13||||"_s);
+    }
+
+    void imports_customers() {
+        QFETCH(QString, options);
+        QFETCH(QString, told);
+        test_database::execute(u"insert into customer values (1,'','旧','','13','','')"_s);
+        QFile file(database_->folder() + u"/csv"_s);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QTest::currentDataTag()) > 0);
+        file.close();
+        run(u"smsdb import-customers DIR/csv FILE "_s + options);
+        QVERIFY2(told_.contains(told.toUtf8()), told_);
+        const QString query = u"select cid,cname,mobile,sex,birth,phone,memo from customer"_s;
+        QTEST(test_database::rows(query).last(), "last");
+    }
+
+    void gives_back_what_it_took() {
+        test_database::execute(
+            u"insert into customer values (7,' 1 ','''甲,\"x\";','','+86','a\tb',' 两 \r\n\r ')"_s);
+        QCOMPARE(run(u"smsdb export-customers FILE DIR/1 && smsdb create DIR/n"_s), 0);
+        QCOMPARE(run(u"smsdb import-customers --class 新 DIR/1 DIR/n; echo $?"_s), 0);
+        QVERIFY2(told_.endsWith("1 customer(s) added, 0 updated, 0 skipped\n1\n"), told_);
+        QCOMPARE(run(u"smsdb export-customers DIR/n DIR/2; cmp DIR/1 DIR/2"_s), 0);
+        QCOMPARE(run(u"smsdb check DIR/n | grep '^cgroup.gid  *1 '"_s), 0);
+        QCOMPARE(run(u"smsdb export-customers FILE DIR/1"_s), 2);
+    }
 };
 
 QTEST_GUILESS_MAIN(test_import)

@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tools/customer_sheet.h"
+
+#include "tools/command.h"
+#include "tools/console.h"
+#include "tools/sheet.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Further headings that are understood, in lower case and without blanks.
+const QHash<QString, QStringList>& other_headings() {
+    static const QHash<QString, QStringList> headings{
+        {u"cname"_s,
+         {u"姓名"_s, u"名称"_s, u"名字"_s, u"客户"_s, u"客户姓名"_s, u"联系人"_s, u"name"_s}},
+        {u"mobile"_s,
+         {u"手机号"_s, u"手机号码"_s, u"移动电话"_s, u"mobilephone"_s, u"cellphone"_s}},
+        {u"sex"_s, {u"gender"_s}},
+        {u"birth"_s, {u"出生日期"_s, u"出生年月"_s, u"birthday"_s, u"dateofbirth"_s}},
+        {u"phone"_s,
+         {u"固定电话"_s, u"座机"_s, u"联系电话"_s, u"电话号码"_s, u"telephone"_s, u"tel"_s}},
+        {u"memo"_s, {u"备注说明"_s, u"说明"_s, u"note"_s, u"notes"_s, u"remark"_s, u"remarks"_s}},
+    };
+    return headings;
+}
+
+/// The column that a heading names; empty when none.
+QString column_of(QString heading) {
+    heading = heading.toLower().remove(QRegularExpression(u"[\\s:：*_]"_s));
+    for (const auto& [column, written] : customer_columns()) {
+        if (heading == column || heading == written ||
+            other_headings().value(column).contains(heading)) {
+            return column;
+        }
+    }
+    return {};
+}
+
+class customer_reader {
+public:
+    customer_reader(const QString& path, const QStringList& headings);
+
+    void take(const sheet_line& line);
+    [[nodiscard]] const customer_sheet& sheet() const { return sheet_; }
+
+private:
+    void remark(const sheet_line& line, const QString& told);
+    /// Why a customer with this mobile number cannot be taken; empty when it can.
+    [[nodiscard]] static QString objection(const QString& mobile);
+
+    QStringList columns_; ///< what each field is; empty for one that is not used
+    customer_sheet sheet_;
+};
+
+customer_reader::customer_reader(const QString& path, const QStringList& headings) {
+    for (const QString& heading : headings) {
+        const QString column = column_of(heading);
+        if (!column.isEmpty() && columns_.contains(column)) {
+            throw failure(
+                u"%1: two headings mean the same, the second is %2"_s.arg(path, shown(heading)));
+        }
+        if (column.isEmpty() && !heading.isEmpty()) {
+            sheet_.remarks.append(u"column %1 is not used"_s.arg(shown(heading)));
+        }
+        columns_.append(column);
+    }
+    if (!columns_.contains(u"mobile"_s)) {
+        throw failure(
+            u"%1: no heading names the mobile number (see smsdb import-customers --help)"_s.arg(
+                path));
+    }
+}
+
+void customer_reader::remark(const sheet_line& line, const QString& told) {
+    sheet_.remarks.append(u"line %1: %2"_s.arg(line.number).arg(told));
+}
+
+QString customer_reader::objection(const QString& mobile) {
+    static const QRegularExpression rounded(uR"(^[0-9][.,][0-9]+[eE][+]?[0-9]+$)"_s);
+    if (mobile.isEmpty()) {
+        return u"no mobile number"_s;
+    }
+    if (mobile.contains(u'\'')) { // it would make every message to all customers fail
+        return u"an apostrophe in the mobile number %1"_s.arg(shown(mobile));
+    }
+    return rounded.match(mobile).hasMatch()
+               ? u"the spreadsheet has rounded the mobile number to %1; make its column text"_s.arg(
+                     shown(mobile))
+               : QString();
+}
+
+void customer_reader::take(const sheet_line& line) {
+    customer_line customer{line.number, {}};
+    for (qsizetype i = 0; i < line.fields.size(); ++i) {
+        QString value = line.fields.at(i);
+        if (i >= columns_.size() && !value.isEmpty()) {
+            remark(line, u"left out: it has more fields than there are headings"_s);
+            return;
+        }
+        const QString column = columns_.value(i);
+        if (value.startsWith(u'\'')) {
+            value.remove(0, 1); // what spreadsheets mark a text with
+        }
+        value = column == u"mobile" ? value.trimmed() : value;
+        if (!column.isEmpty() && !value.isEmpty()) {
+            customer.values.insert(column, value);
+        }
+    }
+    const QString reason = objection(customer.values.value(u"mobile"_s));
+    if (!reason.isEmpty()) {
+        remark(line, u"left out: "_s + reason);
+        return;
+    }
+    for (auto value = customer.values.begin(); value != customer.values.end(); ++value) {
+        if (value->contains(u'\'')) {
+            remark(line,
+                   u"the client cannot save a text with an apostrophe: %1"_s.arg(shown(*value)));
+        }
+        if (value.key() != u"memo" && value->contains(QRegularExpression(u"[\\r\\n]"_s))) {
+            remark(line, u"line breaks become blanks: %1"_s.arg(shown(*value)));
+            *value = value->simplified();
+        }
+    }
+    sheet_.customers.append(customer);
+}
+
+} // namespace
+
+const QList<std::pair<QString, QString>>& customer_columns() {
+    static const QList<std::pair<QString, QString>> columns{
+        {u"cname"_s, u"客户名称"_s}, {u"mobile"_s, u"手机"_s}, {u"sex"_s, u"性别"_s},
+        {u"birth"_s, u"生日"_s},     {u"phone"_s, u"电话"_s},  {u"memo"_s, u"备注"_s}};
+    return columns;
+}
+
+QString mobile_key(QString mobile) {
+    static const QRegularExpression grouping(u"[\\s()-]"_s);
+    return mobile.remove(grouping);
+}
+
+customer_sheet read_customers(const QString& path) {
+    QList<sheet_line> lines = read_sheet(path);
+    customer_reader reader(path, lines.value(0).fields);
+    for (const sheet_line& line : lines.sliced(qMin<qsizetype>(1, lines.size()))) {
+        reader.take(line);
+    }
+    return reader.sheet();
+}

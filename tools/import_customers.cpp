@@ -1,0 +1,236 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/data_error.h"
+#include "platform/sqlite_database.h"
+#include "tools/bound_statement.h"
+#include "tools/command.h"
+#include "tools/console.h"
+#include "tools/customer_sheet.h"
+#include "tools/inspection.h"
+#include "tools/query.h"
+
+#include <QCommandLineParser>
+#include <QHash>
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView help =
+    uR"(Usage: smsdb import-customers [--dry-run] [--class NAME] [--duplicates WAY] CUSTOMERS.csv FILE
+
+Puts the customers of a spreadsheet into the database FILE, all of them at once, also while clients are
+working in it. Make a backup first (smsdb backup).
+
+CUSTOMERS.csv is what a spreadsheet saves as CSV or Unicode text: UTF-8, UTF-16 or GB18030; commas,
+semicolons or tabs. Its first line names the columns, in any order; only the mobile number has to be there:
+
+  客户名称 姓名 联系人 name      手机 手机号 手机号码 mobile     性别 sex gender
+  生日 出生日期 birth birthday   电话 座机 联系电话 phone tel    备注 说明 memo notes
+
+  --dry-run          tells what would happen, and changes nothing
+  --class NAME       puts the customers that are added or updated into this class; makes it if there is none
+  --duplicates WAY   what becomes of a mobile number that a customer has already, or an earlier line:
+                     skip it (the default), update that customer (empty fields leave what is there; of
+                     several with that number the first), or add one more. Blanks and hyphens in the
+                     number make no difference.
+
+Reported, a line each: lines left out for want of a mobile number, columns not used, duplicates, and texts
+with an apostrophe. Those are carried, but the client cannot save that customer until the apostrophe is
+taken out. A mobile number with one is left out, because no message to a group with it could be sent. An
+apostrophe at the very beginning of a field is the mark of a text and does not count.
+
+Exit status: 0 every line is in; 1 done, with a report; 2 nothing done.
+)";
+
+enum class duplicates { skip, add, update };
+
+/// One import into a database, within its transaction.
+class customer_importer {
+public:
+    customer_importer(SqliteDatabase& database, duplicates way, const QString& into_class);
+
+    void take(const customer_line& line);
+    [[nodiscard]] const QStringList& remarks() const { return remarks_; }
+    [[nodiscard]] QString summary() const;
+
+private:
+    [[nodiscard]] qint64 add(const customer_line& line);
+    void update(qint64 cid, const customer_line& line);
+    void put_into_class(qint64 cid);
+    /// The number that the row just inserted has got. Throws failure when the screens cannot hold
+    /// it.
+    [[nodiscard]] qint64 given_number(const QString& table) const;
+
+    SqliteDatabase& database_;
+    duplicates way_;
+    qint64 class_ = 0;     ///< 0 for none
+    QSet<qint64> members_; ///< the customers in that class
+    QHash<QString, qint64> by_mobile_;
+    QStringList remarks_;
+    qint64 added_ = 0;
+    qint64 updated_ = 0;
+    qint64 skipped_ = 0;
+};
+
+customer_importer::customer_importer(SqliteDatabase& database, duplicates way,
+                                     const QString& into_class)
+    : database_(database), way_(way) {
+    for (const QStringList& row : query_rows(
+             database, u"SELECT mobile, cid FROM customer WHERE mobile > '' ORDER BY cid DESC"_s)) {
+        by_mobile_.insert(mobile_key(row.at(0)), row.at(1).toLongLong());
+    }
+    if (into_class.isEmpty()) {
+        return;
+    }
+    class_ = query_number(database,
+                          u"SELECT min(ccid) FROM cusclass WHERE cname = '%1'"_s.arg(into_class));
+    if (class_ == 0) {
+        bound_statement(database, u"INSERT INTO cusclass (cname) VALUES (?)"_s).run({into_class});
+        class_ = given_number(u"cusclass"_s);
+        remarks_.append(u"class %1 is new"_s.arg(shown(into_class)));
+    }
+    for (const QString& cid :
+         query_column(database, u"SELECT cid FROM cgroup WHERE ccid = %1"_s.arg(class_))) {
+        members_.insert(cid.toLongLong());
+    }
+}
+
+qint64 customer_importer::given_number(const QString& table) const {
+    const qint64 number = database_.last_insert_rowid();
+    if (number > last_number) {
+        throw failure(u"the numbers of %1 run out: there are no more than %2; nothing is imported"_s
+                          .arg(table)
+                          .arg(last_number));
+    }
+    return number;
+}
+
+qint64 customer_importer::add(const customer_line& line) {
+    QStringList columns;
+    QVariantList values;
+    for (const auto& [column, heading] : customer_columns()) {
+        columns.append(column);
+        values.append(line.values.value(column, u""_s)); // as the client stores an empty box
+    }
+    bound_statement(database_,
+                    u"INSERT INTO customer (%1) VALUES (?,?,?,?,?,?)"_s.arg(columns.join(u',')))
+        .run(values);
+    ++added_;
+    return given_number(u"customer"_s);
+}
+
+void customer_importer::update(qint64 cid, const customer_line& line) {
+    QStringList changes;
+    QVariantList values;
+    for (auto value = line.values.cbegin(); value != line.values.cend(); ++value) {
+        changes.append(value.key() + u"=?"_s);
+        values.append(*value);
+    }
+    values.append(cid);
+    bound_statement(database_, u"UPDATE customer SET %1 WHERE cid=?"_s.arg(changes.join(u',')))
+        .run(values);
+    ++updated_;
+}
+
+void customer_importer::put_into_class(qint64 cid) {
+    if (class_ != 0 && !members_.contains(cid)) {
+        bound_statement(database_, u"INSERT INTO cgroup (cid, ccid) VALUES (?,?)"_s)
+            .run({cid, class_});
+        static_cast<void>(given_number(u"cgroup"_s));
+        members_.insert(cid);
+    }
+}
+
+void customer_importer::take(const customer_line& line) {
+    const QString mobile = line.values.value(u"mobile"_s);
+    const qint64 known = by_mobile_.value(mobile_key(mobile));
+    if (known != 0) {
+        const QString done = way_ == duplicates::skip     ? u"skipped"_s
+                             : way_ == duplicates::update ? u"updated"_s
+                                                          : u"added again"_s;
+        remarks_.append(u"line %1: %2: customer %3 has the mobile number %4"_s.arg(
+            QString::number(line.number), done, QString::number(known), shown(mobile)));
+    }
+    if (known != 0 && way_ == duplicates::skip) {
+        ++skipped_;
+        return;
+    }
+    qint64 cid = known;
+    if (known != 0 && way_ == duplicates::update) {
+        update(known, line);
+    } else {
+        cid = add(line);
+    }
+    by_mobile_.insert(mobile_key(mobile), known != 0 ? known : cid);
+    put_into_class(cid);
+}
+
+QString customer_importer::summary() const {
+    return u"%1 customer(s) added, %2 updated, %3 skipped\n"_s.arg(added_).arg(updated_).arg(
+        skipped_);
+}
+
+duplicates way_of(const QString& name) {
+    if (name == u"add") {
+        return duplicates::add;
+    }
+    if (name != u"skip" && name != u"update") {
+        throw failure(u"--duplicates %1: expected skip, update or add"_s.arg(name));
+    }
+    return name == u"skip" ? duplicates::skip : duplicates::update;
+}
+
+QString class_of(const QCommandLineParser& arguments) {
+    constexpr qsizetype longest = 50; // as the client's box has it
+    QString name = arguments.value(u"class"_s).trimmed();
+    if (arguments.isSet(u"class"_s) &&
+        (name.isEmpty() || name.size() > longest || name.contains(u'\''))) {
+        throw failure(
+            u"--class: a class has a name of 1 to %1 characters, without an apostrophe"_s.arg(
+                longest));
+    }
+    return name;
+}
+
+int run(const QCommandLineParser& arguments) {
+    const QString file = arguments.positionalArguments().at(1);
+    const bool is_trial = arguments.isSet(u"dry-run"_s);
+    const duplicates way = way_of(arguments.value(u"duplicates"_s));
+    const QString into_class = class_of(arguments);
+    const customer_sheet sheet = read_customers(arguments.positionalArguments().at(0));
+    QStringList remarks = sheet.remarks;
+    QString summary;
+    try {
+        SqliteDatabase database(file);
+        database.execute(u"BEGIN IMMEDIATE"_s);
+        customer_importer importing(database, way, into_class);
+        for (const customer_line& line : sheet.customers) {
+            importing.take(line);
+        }
+        database.execute(is_trial ? u"ROLLBACK"_s : u"COMMIT"_s);
+        remarks += importing.remarks();
+        summary = importing.summary();
+    } catch (const DataError& error) {
+        throw failure(describe(error, file));
+    }
+    for (const QString& remark : remarks) {
+        print(remark + u'\n');
+    }
+    print((is_trial ? u"dry run, nothing is changed: "_s : QString()) + summary);
+    return remarks.isEmpty() ? exit_status::clean : exit_status::findings;
+}
+
+} // namespace
+
+command import_customers_command() {
+    return {u"import-customers"_s,
+            u"put the customers of a spreadsheet into a database"_s,
+            help,
+            2,
+            {QCommandLineOption(u"dry-run"_s), QCommandLineOption(u"class"_s, {}, u"name"_s),
+             QCommandLineOption(u"duplicates"_s, {}, u"way"_s, u"skip"_s)},
+            run};
+}
