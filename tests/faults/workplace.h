@@ -120,12 +120,13 @@ public:
         const qsizetype wanted = received_.size() + more;
         return wait_for([this, wanted] { return received_.size() >= wanted || lost() == 0; });
     }
-    /// The same until none is pending. All have arrived then, and the database is sound.
+    /// The same until none is pending. All have arrived then, but for what is under way when a late
+    /// answer counted for it, and the database is sound.
     [[nodiscard]] bool finish() {
         const auto pending = QStringLiteral("select count(*) from sendsms where sendisok = 0");
         return wait_for([&] { return value(pending) == 0; }) &&
                QTest::qWaitFor([this] { return read_journal(), lost() == 0; }, 30'000) &&
-               is_sound(); // a late answer may count for a message that is still under way
+               is_sound();
     }
 
     /// Puts a stroke into the journal, behind all that was sent so far. What the client had just
@@ -193,9 +194,12 @@ private:
 
     void read_journal() {
         for (QByteArray line = journal_.readLine(); !line.isEmpty(); line = journal_.readLine()) {
-            const QString text = QJsonDocument::fromJson(line)[u"text"].toString();
-            last_.insert(text, received_.size());
-            received_.append(text);
+            // What a slow gateway reads in one go it takes for one message: there are no frames.
+            const QString read = QJsonDocument::fromJson(line)[u"text"].toString();
+            for (const QString& text : read.split(QStringLiteral("1113912345678"))) {
+                last_.insert(text, received_.size());
+                received_.append(text);
+            }
         }
     }
     [[nodiscard]] int lost() const { return messages_ - static_cast<int>(last_.size()); }
