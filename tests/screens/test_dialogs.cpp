@@ -139,7 +139,9 @@ private slots:
         expect_refusal(u"输入的短信信息错误，必须输入短信，请检查！  "_s); // nor is there a mobile
         answer<frmSendsms>({}, {{u"txtSms"_s, u"晚\u00a0安"_s}, {u"txtMobile"_s, u"  "_s}});
         expect_refusal(u"输入的短信信息错误，必须输入手机号码，请检查！  "_s);
-        answer<frmSendsms>({{u"txtMobile"_s, u"  "_s}}, {}, u"Cmdrefcus"_s);
+        answer<frmSendsms>(
+            {{u"txtMobile"_s, u"  "_s}, {u"lblLength"_s, u"共 3 个字，计 1 条短信"_s}}, {},
+            u"Cmdrefcus"_s);
         pick();
         answer<frmSendsms>({{u"txtCname"_s, u"李四"_s}}, {});
         const QString saved = u"成功创建一个短信信息，继续创建吗？ "_s;
