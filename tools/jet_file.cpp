@@ -14,7 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int offset_mask = 0x1fff; ///< where a row stands; above it are its flags
 constexpr qsizetype longest_text = 0x1000000;
 constexpr quint32 catalogue_page = 2;
 

@@ -21,6 +21,9 @@
 /// a process of its own.
 class jet_file {
 public:
+    /// The part of a row's entry in its page that tells where it stands; above it are its flags.
+    static constexpr int offset_mask = 0x1fff;
+
     struct table {
         QString name;
         quint32 page = 0; ///< where its definition stands

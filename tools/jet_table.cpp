@@ -19,7 +19,6 @@ namespace {
 
 constexpr int deleted_or_moved_away = 0x4000;
 constexpr int deleted_or_moved_here = 0x8000;
-constexpr int offset_mask = 0x1fff;
 
 QJsonValue unreadable() {
     return QJsonObject();
@@ -97,7 +96,7 @@ void jet_table::for_each_place(const std::function<void(int row, const place&)>&
                 refuse(u"a row cannot be found"_s);
             }
             const int flags = found.start;
-            found.start &= offset_mask;
+            found.start &= jet_file::offset_mask;
             found.has_moved_here = (flags & deleted_or_moved_here) != 0;
             found.has_moved_away = (flags & deleted_or_moved_away) != 0;
             if (!found.has_moved_here || !found.has_moved_away) { // both: deleted
