@@ -4,6 +4,7 @@ target_include_directories(smscrm_options INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(
     smscrm_options
     INTERFACE $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-Werror>
+              $<$<CXX_COMPILER_ID:MSVC>:/utf-8>
               $<$<BOOL:${SMSCRM_SANITIZE}>:-fsanitize=address,undefined;-fno-sanitize-recover=all;-fno-omit-frame-pointer>
               $<$<BOOL:${SMSCRM_FUZZ}>:-fsanitize=fuzzer-no-link>
 )

@@ -1,5 +1,5 @@
 # Checks that no folder includes a header of a floor above it or beside it, nor a widget where there
-# are none. Run with: cmake -DROOT=<source folder> -P tests/layers.cmake
+# are none, nor one of the operating system's outside platform/ and gateway/. Run with: cmake -DROOT=<source folder> -P tests/layers.cmake
 cmake_minimum_required(VERSION 3.25)
 
 set(platform_may platform)
@@ -12,6 +12,9 @@ set(operators_may ${listview_may} operators)
 set(app_may ${listview_may} directory messaging operators app)
 set(gateway_may gateway)
 set(tools_may platform data tools)
+
+set(system_headers "^#include <((sys|arpa|net|netinet)/|(csignal|dirent|dlfcn|fcntl|poll|pthread|signal|spawn|termios|unistd|windows)[.h>])")
+set(may_use_the_system platform gateway)
 
 set(faults "")
 file(GLOB files RELATIVE ${ROOT} ${ROOT}/*/*.h ${ROOT}/*/*.cpp ${ROOT}/platform/widgets/*)
@@ -27,6 +30,12 @@ foreach(file ${files})
             string(APPEND faults "\n${file}: ${include}")
         endif()
     endforeach()
+    if(NOT floor IN_LIST may_use_the_system)
+        file(STRINGS ${ROOT}/${file} includes REGEX "${system_headers}")
+        foreach(include ${includes})
+            string(APPEND faults "\n${file}: ${include}")
+        endforeach()
+    endif()
 endforeach()
 if(faults)
     message(FATAL_ERROR "These reach out of their floor:${faults}")

@@ -32,13 +32,10 @@ there, a client was killed: take FILE-wal and FILE-shm away first, they belong t
 Exit status: 0 copied; 2 not copied, and TO is as it was.
 )";
 
-std::filesystem::path native(const QString& path) {
-    return QFile::encodeName(path).toStdString();
-}
-
 void refuse_database(const QString& file, const QString& place) {
     std::error_code none_there;
-    if (std::filesystem::equivalent(native(file), native(place), none_there)) {
+    if (std::filesystem::equivalent(QFileInfo(file).filesystemFilePath(),
+                                    QFileInfo(place).filesystemFilePath(), none_there)) {
         throw failure(u"%1: is the database itself"_s.arg(place));
     }
     // A log beside another database than its own would be taken for the other's.
@@ -69,8 +66,7 @@ int run(const QCommandLineParser& arguments) {
     const QString place = arguments.positionalArguments().at(1);
     SqliteDatabase source(file, SqliteDatabase::Mode::read_only);
     refuse_database(file, place);
-    new_file backup(place, arguments.isSet(u"force"_s) ? new_file::Existing::replace
-                                                       : new_file::Existing::keep);
+    new_file backup(place, arguments.isSet(u"force"_s) ? existing::replace : existing::keep);
     try {
         fill(source, backup.path());
         check(backup.path());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/data_error.h"
+#include "platform/process_limits.h"
 #include "tools/command.h"
 #include "tools/console.h"
 
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <csignal>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -83,8 +83,7 @@ int run(QStringList arguments) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    // A limit on the size of files is to be an error like a full disk, not the end.
-    std::signal(SIGXFSZ, SIG_IGN);
+    survive_file_size_limit();
     const QCoreApplication application(argc, argv);
     try {
         const int status = run(QCoreApplication::arguments());

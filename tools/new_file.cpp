@@ -8,12 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <cerrno>
-#include <cstdio>
-
-#include <fcntl.h>
-#include <unistd.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -22,35 +16,12 @@ namespace {
     throw failure(u"%1: cannot be written: %2"_s.arg(path, reason));
 }
 
-/// Makes a file's content, or a folder's entries, durable.
-void sync(const QString& path) {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    const bool synced = descriptor >= 0 && ::fsync(descriptor) == 0;
-    const int reason = errno;
-    ::close(descriptor);
-    if (!synced) {
-        fail(path, qt_error_string(reason));
-    }
-}
-
-bool rename(const QByteArray& from, const QByteArray& to, new_file::Existing existing) {
-    if (existing == new_file::Existing::replace) {
-        return std::rename(from.constData(), to.constData()) == 0;
-    }
-    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0) {
-        return true;
-    }
-    // Some network file systems have only this way of not replacing.
-    return errno == EINVAL && ::link(from.constData(), to.constData()) == 0 &&
-           ::unlink(from.constData()) == 0;
-}
-
 } // namespace
 
-new_file::new_file(const QString& place, Existing existing)
-    : place_(place), part_(place + u".part"_s), existing_(existing), lock_(place + u".lock"_s) {
-    const QFileInfo there(place);
-    if (existing == Existing::keep && (there.exists() || there.isSymLink())) {
+new_file::new_file(const QString& place, existing there)
+    : place_(place), part_(place + u".part"_s), there_(there), lock_(place + u".lock"_s) {
+    const QFileInfo old(place);
+    if (there == existing::keep && (old.exists() || old.isSymLink())) {
         throw failure(u"%1: exists already"_s.arg(place));
     }
     // A run killed while it made its lock leaves one that names nobody; a live one's is kept
@@ -84,11 +55,11 @@ void new_file::write(const QByteArray& content) {
 }
 
 void new_file::put_in_place() {
-    sync(part_);
-    if (!rename(QFile::encodeName(part_), QFile::encodeName(place_), existing_)) {
-        fail(place_, qt_error_string(errno));
+    const std::error_code error = move_durably(QFileInfo(part_).filesystemFilePath(),
+                                               QFileInfo(place_).filesystemFilePath(), there_);
+    if (error) {
+        fail(place_, qt_error_string(error.value()));
     }
-    sync(QFileInfo(place_).absolutePath());
 }
 
 void new_file::remove_parts() const {

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/durable_move.h"
+
 #include <QLockFile>
 #include <QString>
 
@@ -10,11 +12,9 @@
 /// and readable by its owner alone, or not at all. What a killed run left is made anew.
 class new_file {
 public:
-    enum class Existing { keep, replace };
-
     /// Throws failure when there is something at `place` that is to be kept, its folder cannot be
     /// written, or another run is making the same file.
-    explicit new_file(const QString& place, Existing existing = Existing::keep);
+    explicit new_file(const QString& place, existing there = existing::keep);
     /// Takes away what was not put in place.
     ~new_file();
     Q_DISABLE_COPY_MOVE(new_file)
@@ -34,6 +34,6 @@ private:
 
     QString place_;
     QString part_;
-    Existing existing_;
+    existing there_;
     QLockFile lock_;
 };

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "platform/process_limits.h"
 #include "tools/command.h"
 #include "tools/jet_table.h"
-#include "tools/process_limits.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>

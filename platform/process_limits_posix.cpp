@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/process_limits.h"
+#include "platform/process_limits.h"
+
+#include <csignal>
 
 #include <sys/resource.h>
 
@@ -20,4 +22,8 @@ void limit_this_process(qint64 memory_bytes, int processor_seconds) {
     if (memory_bytes > 0) {
         limit(RLIMIT_AS, static_cast<rlim_t>(memory_bytes));
     }
+}
+
+void survive_file_size_limit() {
+    std::signal(SIGXFSZ, SIG_IGN);
 }
