@@ -15,9 +15,10 @@ namespace gateway {
 
 QString journal::open(const QString& path) {
     file_.setFileName(path);
-    // Unbuffered, so that a line is one write and whole lines survive a crash.
-    const bool opened =
-        file_.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered);
+    // Unbuffered, so that a line is one write and whole lines survive a crash. A new one is for its
+    // owner alone: it holds what customers write.
+    const bool opened = file_.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered,
+                                   QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     return opened ? QString() : file_.errorString();
 }
 

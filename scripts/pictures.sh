@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Takes the manual's pictures anew: of the tour's steps those that the manual names, small enough to
+# Takes the pictures of the documents anew: of the tour's steps those that they name, small enough to
 # be kept (at most 128 colours).
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
@@ -13,7 +13,8 @@ trap 'rm -rf "$taken"' EXIT
 xvfb-run -a -s "-screen 0 1280x900x24 -noreset" \
     bash -c 'openbox 2>/dev/null & sleep 1; exec "$0" --front --pictures "$1"' \
     build/release/bin/smscrm_tour "$taken"
-grep -o 'pictures/[a-z-]*\.png' docs/manual.zh_CN.md | sort -u | while read -r picture; do
+rm -f docs/pictures/*
+grep -oh 'pictures/[a-z-]*\.png' README.md docs/*.md | sort -u | while read -r picture; do
     name=$(basename "$picture")
     convert "$taken"/[0-9]*[0-9]-"$name" +dither -colors 128 -strip "PNG8:docs/$picture"
 done

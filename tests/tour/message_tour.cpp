@@ -50,7 +50,7 @@ void tour::first_run(frmMain& window, QProcess& gateway) {
     guide::step(u"main-window"_s, u"67,67 433x433 操作员：valdrine|注销我自己"_s,
                 {describe(window)});
     window.move(70, 80);
-    window.resize(1140, 740);
+    window.resize(1140, 520);
     add_a_phrase(window);
     add_two_customers(window);
     expect_saving("FrmParameter", u"parameters"_s, u"参数设置"_s,
@@ -113,7 +113,7 @@ void sort_and_find(frmMain& window) {
 } // namespace
 
 void tour::second_run(frmMain& window, QProcess& gateway) {
-    const QString place = u"70,80 1140x740 操作员："_s;
+    const QString place = u"70,80 1140x520 操作员："_s;
     guide::step(u"same-place"_s, place + u"valdrine|注销我自己"_s, {describe(window)});
     fill_the_lists();
     choose(window, u"mnuIN"_s, u"mnusend"_s);
