@@ -7,7 +7,7 @@ build_packages=(
 )
 display_packages=(xvfb xauth openbox)
 lint_packages=(clang-format clang-tidy)
-packaging_packages=(appstream desktop-file-utils dpkg-dev pandoc)
+packaging_packages=(appstream desktop-file-utils dpkg-dev file pandoc)
 
 # packages_missing NAME...: prints those that are not installed.
 packages_missing() {
