@@ -51,6 +51,28 @@ QJsonValue moment_in(QByteArrayView bytes) {
     return moment.toString(second == 0 ? u"yyyy/MM/dd"_s : u"yyyy/MM/dd HH:mm:ss"_s);
 }
 
+/// What stands at the end of a row: a bit for each column that the table had when it was written, 0
+/// for Null. The library looks for younger columns' bits behind the row.
+class row_marks {
+public:
+    row_marks(std::span<const unsigned char> row, bool is_jet3)
+        : row_(row), columns_(row.front() | (is_jet3 ? 0 : row[1] << 8)) {}
+
+    [[nodiscard]] bool are_sound(int columns_ever) const {
+        return columns_ <= columns_ever && size() < row_.size();
+    }
+    [[nodiscard]] bool has_value(int column) const {
+        const auto byte = static_cast<size_t>(column) / 8;
+        return column < columns_ && (row_.last(size())[byte] >> (column % 8) & 1) != 0;
+    }
+
+private:
+    [[nodiscard]] size_t size() const { return (static_cast<size_t>(columns_) + 7) / 8; }
+
+    std::span<const unsigned char> row_;
+    int columns_;
+};
+
 } // namespace
 
 jet_table::jet_table(jet_file& file, const jet_file::table& which)
@@ -65,6 +87,10 @@ jet_table::jet_table(jet_file& file, const jet_file::table& which)
         table_->columns->len != table_->num_cols) {
         refuse(u"its columns cannot be read"_s);
     }
+    MdbHandle* handle = file_.handle();
+    mdb_read_pg(handle, entry_->table_pg);
+    columns_ever_ = mdb_get_int16(static_cast<unsigned char*>(handle->pg_buf),
+                                  handle->fmt->tab_num_cols_offset - 4);
 }
 
 void jet_table::refuse(const QString& what) const {
@@ -137,23 +163,39 @@ void jet_table::for_each_row(const std::function<void(const QJsonArray&)>& take)
     }
 }
 
+const MdbColumn& jet_table::column_of(const MdbField& field) const {
+    return *column_list()[static_cast<size_t>(field.colnum)];
+}
+
 QJsonArray jet_table::row_at(const place& found) {
     std::vector<MdbField> fields(table_->num_cols);
     const int there = mdb_crack_row(table_.get(), found.start, found.length, fields.data());
-    if (there != static_cast<int>(fields.size())) {
+    const row_marks marks({&file_.handle()->pg_buf[found.start], found.length},
+                          IS_JET3(file_.handle()));
+    if (there < 0 || !marks.are_sound(columns_ever_)) {
         refuse(u"a row cannot be read"_s);
     }
+    for (MdbField& field : fields) {
+        field.is_null = marks.has_value(column_of(field).col_num) ? 0 : 1;
+    }
+    check_places(found, fields);
     QJsonArray row;
     for (const MdbField& field : fields) {
-        const MdbColumn& column = *column_list()[static_cast<size_t>(field.colnum)];
-        const bool has_bytes = field.is_null == 0 && column.col_type != MDB_BOOL;
-        if (has_bytes && (field.siz < 0 || field.start < found.start ||
-                          field.start + field.siz > found.start + static_cast<int>(found.length))) {
-            refuse(u"a row cannot be read"_s);
-        }
-        row.append(value(column, field));
+        row.append(value(column_of(field), field));
     }
     return row;
+}
+
+/// Refuses a row in which values lie outside of it.
+void jet_table::check_places(const place& found, const std::vector<MdbField>& fields) const {
+    const int end = found.start + static_cast<int>(found.length);
+    for (const MdbField& field : fields) {
+        const bool has_bytes = field.is_null == 0 && column_of(field).col_type != MDB_BOOL;
+        if (has_bytes &&
+            (field.siz < 0 || field.start < found.start || field.start + field.siz > end)) {
+            refuse(u"a row cannot be read"_s);
+        }
+    }
 }
 
 QJsonValue jet_table::value(const MdbColumn& column, const MdbField& field) {

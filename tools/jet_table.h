@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <span>
+#include <vector>
 
 /// One table of a Jet file: its columns, and its rows as they stand.
 class jet_table {
@@ -37,7 +38,9 @@ private:
 
     void for_each_place(const std::function<void(int row, const place&)>& take);
     [[nodiscard]] QSet<quint32> moved_rows();
+    [[nodiscard]] const MdbColumn& column_of(const MdbField& field) const;
     [[nodiscard]] QJsonArray row_at(const place& found);
+    void check_places(const place& found, const std::vector<MdbField>& fields) const;
     [[nodiscard]] QJsonValue value(const MdbColumn& column, const MdbField& field);
     [[nodiscard]] std::span<MdbColumn* const> column_list() const;
     [[noreturn]] void refuse(const QString& what) const;
@@ -48,4 +51,5 @@ private:
     jet_file& file_;
     std::unique_ptr<MdbCatalogEntry> entry_;
     std::unique_ptr<MdbTableDef, deleter> table_;
+    int columns_ever_ = 0; ///< how many columns have had a number, deleted ones too
 };

@@ -91,6 +91,8 @@ private slots:
             u"not carried: smsmodels 65535: its number"_s);
         row(edit.arg(uR"(s/\xc3\x22\0\0/\x70\x11\x01\0/)"_s),
             u"parameters.port 1: \"70000\" is no"_s);
+        row(edit.arg(uR"(s/\x02(\0?\x08\0{7}\x01)/\x01$1/)"_s), // older than its last column
+            u"rights            14        14"_s);
         const QString knot =
             u"for $p (1 .. length() / PAGE - 1) { $at = $p * PAGE; substr($_, $at + 4, 4) eq \"LVAL\" and substr($_, $at + (0x1fff & unpack \"v\", substr($_, $at + (PAGE == 2048 ? 10 : 14))), 4) = pack \"V\", $p << 8 }"_s;
         row(edit.arg(knot), u"9, 14: cannot be read\n"_s);
