@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -59,7 +60,7 @@ public:
         : row_(row), columns_(row.front() | (is_jet3 ? 0 : row[1] << 8)) {}
 
     [[nodiscard]] bool are_sound(int columns_ever) const {
-        return columns_ <= columns_ever && size() < row_.size();
+        return columns_ > 0 && columns_ <= columns_ever && size() < row_.size();
     }
     [[nodiscard]] bool has_value(int column) const {
         const auto byte = static_cast<size_t>(column) / 8;
@@ -87,10 +88,34 @@ jet_table::jet_table(jet_file& file, const jet_file::table& which)
         table_->columns->len != table_->num_cols) {
         refuse(u"its columns cannot be read"_s);
     }
+    check_columns();
+}
+
+/// Refuses columns that no table can have: they would be read from where something else stands.
+void jet_table::check_columns() {
     MdbHandle* handle = file_.handle();
     mdb_read_pg(handle, entry_->table_pg);
     columns_ever_ = mdb_get_int16(static_cast<unsigned char*>(handle->pg_buf),
                                   handle->fmt->tab_num_cols_offset - 4);
+    std::set<QString> names;
+    std::set<int> numbers;
+    std::set<unsigned int> texts;
+    std::set<int> taken; // bytes of the fixed part
+    for (const MdbColumn* column : column_list()) {
+        const QString name = QString::fromUtf8(static_cast<const char*>(column->name)).toLower();
+        bool is_sound = !name.isEmpty() && names.insert(name).second &&
+                        column->col_num < columns_ever_ && numbers.insert(column->col_num).second;
+        if (column->is_fixed == 0) {
+            is_sound = is_sound && column->var_col_num < table_->num_var_cols &&
+                       texts.insert(column->var_col_num).second;
+        }
+        for (int i = 0; column->is_fixed != 0 && i < column->col_size; ++i) {
+            is_sound = is_sound && taken.insert(column->fixed_offset + i).second;
+        }
+        if (!is_sound) {
+            refuse(u"its columns cannot be read"_s);
+        }
+    }
 }
 
 void jet_table::refuse(const QString& what) const {
@@ -176,7 +201,11 @@ QJsonArray jet_table::row_at(const place& found) {
         refuse(u"a row cannot be read"_s);
     }
     for (MdbField& field : fields) {
-        field.is_null = marks.has_value(column_of(field).col_num) ? 0 : 1;
+        const bool has_value = marks.has_value(column_of(field).col_num);
+        if (has_value && field.is_null != 0 && column_of(field).col_type != MDB_BOOL) {
+            refuse(u"a row holds too few values"_s);
+        }
+        field.is_null = has_value ? 0 : 1;
     }
     check_places(found, fields);
     QJsonArray row;
@@ -186,15 +215,27 @@ QJsonArray jet_table::row_at(const place& found) {
     return row;
 }
 
-/// Refuses a row in which values lie outside of it.
+/// Refuses a row in which values lie outside of it, or texts among the values of fixed size.
 void jet_table::check_places(const place& found, const std::vector<MdbField>& fields) const {
     const int end = found.start + static_cast<int>(found.length);
+    int end_of_fixed = found.start;
+    int start_of_texts = end;
     for (const MdbField& field : fields) {
-        const bool has_bytes = field.is_null == 0 && column_of(field).col_type != MDB_BOOL;
-        if (has_bytes &&
-            (field.siz < 0 || field.start < found.start || field.start + field.siz > end)) {
+        const MdbColumn& column = column_of(field);
+        if (field.is_null != 0 || column.col_type == MDB_BOOL) {
+            continue;
+        }
+        if (field.siz < 0 || field.start < found.start || field.start + field.siz > end) {
             refuse(u"a row cannot be read"_s);
         }
+        if (column.is_fixed != 0) {
+            end_of_fixed = std::max(end_of_fixed, field.start + field.siz);
+        } else {
+            start_of_texts = std::min(start_of_texts, field.start);
+        }
+    }
+    if (end_of_fixed > start_of_texts) {
+        refuse(u"a row cannot be read"_s);
     }
 }
 
@@ -203,7 +244,8 @@ QJsonValue jet_table::value(const MdbColumn& column, const MdbField& field) {
         return field.is_null == 0;
     }
     if (field.is_null != 0) {
-        return {};
+        const bool has_text = column.is_fixed == 0 && field.siz > 0;
+        return has_text ? unreadable() : QJsonValue();
     }
     const QByteArrayView bytes(&file_.handle()->pg_buf[field.start], field.siz);
     const auto text_or_not = [](const std::optional<QString>& text) {

@@ -36,6 +36,7 @@ private:
         bool has_moved_away = false;
     };
 
+    void check_columns();
     void for_each_place(const std::function<void(int row, const place&)>& take);
     [[nodiscard]] QSet<quint32> moved_rows();
     [[nodiscard]] const MdbColumn& column_of(const MdbField& field) const;
