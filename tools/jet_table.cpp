@@ -262,6 +262,10 @@ QJsonValue jet_table::value(const MdbColumn& column, const MdbField& field) {
         return number_in<float>(bytes);
     case MDB_DOUBLE:
         return number_in<double>(bytes);
+    case MDB_MONEY: {
+        const QJsonValue ten_thousandths = number_in<qint64>(bytes);
+        return ten_thousandths.isDouble() ? ten_thousandths.toDouble() / 10000 : ten_thousandths;
+    }
     case MDB_DATETIME:
         return moment_in(bytes);
     case MDB_TEXT:
