@@ -15,6 +15,11 @@ bool is_relation(const QString& table) {
     return table == u"cgroup" || table == u"rights";
 }
 
+/// Tables whose rows the old system did not number.
+bool is_numbered_here(const QString& table) {
+    return table == u"rights" || table == u"CONSTS" || table.startsWith(u"view");
+}
+
 /// What stands where there must be a value. A message that may have been sent is never sent again.
 int fallback(const QString& column) {
     return column == u"sendisok" ? -1 : 0;
@@ -39,9 +44,13 @@ table_filler::table_filler(SqliteDatabase& database, losses& lost, const QString
         }
         if (wanted.source >= 0) {
             used.insert(wanted.source);
-            names.append(wanted.name);
-            columns_.append(wanted);
+        } else if (wanted.is_key && is_numbered_here(table)) {
+            continue;
+        } else {
+            lost_.add(u"column %1.%2"_s.arg(table, wanted.name), u"the old database has none"_s);
         }
+        names.append(wanted.name);
+        columns_.append(wanted);
     }
     for (qsizetype i = 0; i < old_columns.size(); ++i) {
         if (!used.contains(i)) {
@@ -49,16 +58,20 @@ table_filler::table_filler(SqliteDatabase& database, losses& lost, const QString
                       u"this system has no such column"_s);
         }
     }
-    if (!names.isEmpty()) {
+    if (!used.isEmpty()) {
         insertion_.emplace(
             database, u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(
                           target, names.join(u','), QStringList(names.size(), u"?"_s).join(u',')));
     }
 }
 
+QJsonValue table_filler::old_value(const QJsonArray& row, const column& wanted) {
+    return wanted.source < 0 ? QJsonValue() : row.at(wanted.source);
+}
+
 qint64 table_filler::number_of(const QJsonArray& row) const {
     for (const column& wanted : columns_) {
-        const QJsonValue key = wanted.is_key ? row.at(wanted.source) : QJsonValue();
+        const QJsonValue key = wanted.is_key ? old_value(row, wanted) : QJsonValue();
         if (key.isDouble()) {
             return static_cast<qint64>(key.toDouble());
         }
@@ -113,7 +126,7 @@ void table_filler::take(const QJsonArray& row) {
     const qint64 number = number_of(row);
     QList<carried> values;
     for (const column& wanted : columns_) {
-        values.append(carry(row.at(wanted.source), wanted.takes));
+        values.append(carry(old_value(row, wanted), wanted.takes));
     }
     const QString reason = objection(values, number);
     if (!reason.isEmpty()) {

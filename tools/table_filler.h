@@ -33,9 +33,11 @@ private:
         content takes = content::text;
         bool is_key = false;
         bool needs_value = false;
-        qsizetype source = -1; ///< where it stands in an old row
+        qsizetype source = -1; ///< where it stands in an old row; negative for nowhere
     };
 
+    /// Null where the old table has no such column.
+    [[nodiscard]] static QJsonValue old_value(const QJsonArray& row, const column& wanted);
     /// Why the row cannot be carried; empty when it can.
     [[nodiscard]] QString objection(const QList<carried>& values, qint64 number) const;
     /// The number that a report names a row by: its key, or how many have been read.
@@ -44,7 +46,7 @@ private:
 
     losses& lost_;
     QString table_;
-    QList<column> columns_; ///< those that the old table has
+    QList<column> columns_;
     std::optional<bound_statement> insertion_;
     QSet<qint64> numbers_;
     qint64 read_ = 0;

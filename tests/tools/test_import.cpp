@@ -95,6 +95,8 @@ private slots:
             u"rights            14        14"_s);
         row(edit.arg(uR"(s/(plain ASCII text.{3,6})\x03/$1\x01/s)"_s), // marked as Null
             u"not carried: smsmodels.text 15: cannot be read"_s);
+        row(edit.arg(uR"(s/(n\0?d\0?i\0?s\0?o\0?)k/$1x/)"_s), // none may wait to be sent then
+            u"its definition is not carried\nimported"_s);
         const QString knot =
             u"for $p (1 .. length() / PAGE - 1) { $at = $p * PAGE; substr($_, $at + 4, 4) eq \"LVAL\" and substr($_, $at + (0x1fff & unpack \"v\", substr($_, $at + (PAGE == 2048 ? 10 : 14))), 4) = pack \"V\", $p << 8 }"_s;
         row(edit.arg(knot), u"9, 14: cannot be read\n"_s);
