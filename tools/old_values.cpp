@@ -24,21 +24,28 @@ QString text_of(const QJsonValue& value) {
 }
 
 /// The ways in which a Chinese desktop writes a moment, as the ways that this system reads.
-QDateTime read_free_moment(QString text) {
-    constexpr qint64 half_a_day = 43200;
+std::optional<wall_time> read_free_moment(const QString& written) {
+    constexpr int half_a_day = 43200;
     static const QRegularExpression half_day(u"(上午|下午|AM|PM)"_s,
                                              QRegularExpression::CaseInsensitiveOption);
+    QString text = written.normalized(QString::NormalizationForm_KC); // wide digits and colons
     const QString half = half_day.match(text).captured().toUpper();
     text.remove(half_day).replace(QRegularExpression(u"[年月.]"_s), u"-"_s).replace(u'日', u' ');
-    const QDateTime moment = read_datetime(text.simplified());
-    const int hour = moment.time().hour();
-    if (hour < 12 && (half == u"下午" || half == u"PM")) {
-        return moment.addSecs(half_a_day);
+    std::optional<wall_time> moment = read_wall_time(text.simplified());
+    const int hour = moment ? moment->time.hour() : 0;
+    if (moment && (half == u"下午" || half == u"PM" ? hour < 12 : !half.isEmpty() && hour == 12)) {
+        moment->time = moment->time.addSecs(half_a_day); // past midnight it begins again
     }
-    return hour == 12 && (half == u"上午" || half == u"AM") ? moment.addSecs(-half_a_day) : moment;
+    return moment;
 }
 
 carried carry_truth(const QJsonValue& value, int yes) {
+    static const QStringList words{u"yes"_s, u"on"_s, u"是"_s, u"真"_s};
+    static const QStringList denials{u"no"_s, u"off"_s, u"否"_s, u"假"_s};
+    const QString word = text_of(value).trimmed().toLower();
+    if (words.contains(word) || denials.contains(word)) {
+        return {words.contains(word) ? yes : 0, {}};
+    }
     try {
         return {to_boolean(text_of(value)) ? yes : 0, {}};
     } catch (const DataError&) {
@@ -56,9 +63,9 @@ carried carry_number(const QJsonValue& value) {
 
 carried carry_moment(const QJsonValue& value) {
     const QString text = text_of(value);
-    const QDateTime moment = read_free_moment(text);
-    if (moment.isValid()) {
-        return {fmtdatetime(moment), {}};
+    if (const auto moment = read_free_moment(text)) {
+        // Which moment that is here does not matter: a clock may have skipped it that night.
+        return {fmtdatetime(QDateTime(moment->date, moment->time, Qt::UTC)), {}};
     }
     return {{}, text.trimmed().isEmpty() ? QString() : u"%1 is no date"_s.arg(shown(text))};
 }

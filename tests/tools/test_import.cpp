@@ -3,6 +3,7 @@
 
 #include "platform/connection_pool.h"
 #include "tests/tools/smsdb_shell.h"
+#include "tools/old_values.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -15,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // An old value as the schema holds it.
-QJsonValue carried(const QJsonValue& value, const QJsonValue& column) {
+QJsonValue new_value(const QJsonValue& value, const QJsonValue& column) {
     const QString name = column[u"name"].toString();
     if (value.isBool() || (value.isNull() && (name == u"isall" || name == u"readed"))) {
         return value.toBool() ? -1 : 0;
@@ -34,7 +35,7 @@ std::pair<QString, QStringList> old_rows(const QString& table, const QJsonObject
         QJsonArray values;
         names.clear();
         for (const auto& column : content[u"columns"].toArray()) {
-            values.append(carried(row[values.size()], column));
+            values.append(new_value(row[values.size()], column));
             names.append(column[u"name"].toString());
         }
         if (!is_view || with_columns.contains(values.first().toString())) {
@@ -117,6 +118,34 @@ private slots:
             QVERIFY(status == 1 || (status == 2 && told_.startsWith("smsdb: ")));
             QCOMPARE(run(u"test $(ls DIR | wc -l) = %1"_s.arg(3 - status)), 0);
         }
+    }
+
+    void converts_data() {
+        qputenv("TZ", "Asia/Shanghai"); // where no clock showed 2:30 on 4 May 1986
+        QTest::addColumn<content>("wanted");
+        QTest::addColumn<QJsonValue>("old");
+        QTest::addColumn<QVariant>("value");
+        const auto row = [](content wanted, const QJsonValue& old, const QVariant& value) {
+            QTest::addRow("%s", qPrintable(old.toVariant().toString())) << wanted << old << value;
+        };
+        row(content::moment, u"2009年3月5日 下午3:04:05"_s, u"2009/03/05 15:04:05"_s);
+        row(content::moment, u"2009-3-5 12:30 AM"_s, u"2009/03/05 00:30:00"_s);
+        row(content::moment, u"２００９.3.5 12:30 pm"_s, u"2009/03/05 12:30:00"_s);
+        row(content::moment, u"1986/5/4 上午 2:30"_s, u"1986/05/04 02:30:00"_s);
+        row(content::moment, u"5/3/2009"_s, {});
+        row(content::number, u" 12 "_s, 12);
+        row(content::number, 1.5, {});
+        row(content::flag, u"否"_s, 0);
+        row(content::text, true, u"-1"_s);
+        row(content::text, 13900000001.0, u"13900000001"_s);
+        row(content::text, u"a\0b"_s, {});
+    }
+
+    void converts() {
+        QFETCH(content, wanted);
+        QFETCH(QJsonValue, old);
+        const auto [value, fault] = carry(old, wanted);
+        QTEST(fault.isEmpty() ? value : QVariant(), "value"); // none where something is lost
     }
 
     void imports_customers_data() {
