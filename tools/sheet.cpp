@@ -6,6 +6,7 @@
 #include "tools/command.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -18,22 +19,73 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Nothing when not all of it can be read, its last character too.
 std::optional<QString> decoded(QStringDecoder decoder, const QByteArray& content) {
     const QString text = decoder.decode(content);
     return decoder.hasError() ? std::nullopt : std::optional(text);
 }
 
-QString text_of(const QByteArray& content) {
-    if (const auto marked = QStringConverter::encodingForData(content)) {
-        return decoded(QStringDecoder(*marked), content).value_or(QString());
+std::optional<QString> from_utf8(const QByteArray& content) {
+    return decoded(QStringDecoder(QStringConverter::Utf8, QStringDecoder::Flag::Stateless),
+                   content);
+}
+
+/// The first line that is not UTF-8 where others are; 0 when there is no such mixture. One line in
+/// many may look like UTF-8 by chance.
+qint64 line_of_other_encoding(const QByteArray& content) {
+    constexpr qint64 many = 100;
+    static const QRegularExpression chinese(u"\\p{Han}"_s);
+    qint64 line = 0;
+    qint64 first_other = 0;
+    qint64 others = 0;
+    qint64 in_utf8 = 0;
+    for (const QByteArray& bytes : content.split('\n')) {
+        ++line;
+        const auto text = from_utf8(bytes);
+        if (text) {
+            in_utf8 += text->contains(chinese) ? 1 : 0;
+        } else {
+            ++others;
+            first_other = first_other == 0 ? line : first_other;
+        }
     }
-    const auto text = decoded(QStringDecoder(QStringConverter::Utf8), content);
-    return text ? *text : decoded(QStringDecoder("GB18030"), content).value_or(QString());
+    return others <= in_utf8 * many ? first_other : 0;
+}
+
+/// The text of a file. Throws failure when it is none.
+QString text_of(const QString& path, const QByteArray& content) {
+    const auto marked = QStringConverter::encodingForData(content);
+    std::optional<QString> text =
+        marked ? decoded(QStringDecoder(*marked, QStringDecoder::Flag::Stateless), content)
+               : from_utf8(content);
+    const qint64 line = text ? 0 : line_of_other_encoding(content);
+    if (line != 0) {
+        throw failure(
+            u"%1: line %2 is not in UTF-8 as others are; save the file anew, all in one encoding"_s
+                .arg(path, QString::number(line)));
+    }
+    if (!text && !marked) {
+        text = decoded(QStringDecoder("GB18030", QStringDecoder::Flag::Stateless), content);
+    }
+    if (!text || text->contains(QChar::Null)) {
+        throw failure(u"%1: is no text in UTF-8, UTF-16 or GB18030; save it as CSV"_s.arg(path));
+    }
+    return *text;
+}
+
+/// Some name the separator before the first line, and write a number as a formula so that it stays
+/// a text.
+QString without_hints(QString text) {
+    static const QRegularExpression separator(u"^sep=[,;\\t](?=[\\r\\n])"_s,
+                                              QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression formula(
+        uR"re((^|[,;\t\r\n])="([^"\r\n]*)"(?=[,;\t\r\n]|$))re"_s);
+    return text.remove(separator).replace(formula, uR"(\1"\2")"_s);
 }
 
 unsigned char separator_of(const QString& text) {
-    const QStringView first_line = QStringView(text).left(text.indexOf(u'\n'));
-    const auto rarer = [first_line](QChar a, QChar b) {
+    const QString first_line = text.trimmed().section(QRegularExpression(u"[\\r\\n]"_s), 0, 0);
+    const auto rarer = [&first_line](QChar a, QChar b) {
         return first_line.count(a) < first_line.count(b);
     };
     const auto separators = {u',', u';', u'\t'};
@@ -81,9 +133,12 @@ QList<sheet_line> read_sheet(const QString& path) {
     if (!file.open(QIODevice::ReadOnly)) {
         throw failure(u"%1: cannot be opened: %2"_s.arg(path, file.errorString()));
     }
-    const QString text = file.size() <= largest ? text_of(file.read(largest)) : QString();
-    if (text.isEmpty() || text.contains(QChar::Null)) {
-        throw failure(u"%1: is empty or no text in UTF-8 or GB18030"_s.arg(path));
+    if (file.size() > largest) {
+        throw failure(u"%1: is too large for a list of customers"_s.arg(path));
+    }
+    const QString text = without_hints(text_of(path, file.read(largest)));
+    if (text.trimmed().isEmpty()) {
+        throw failure(u"%1: is empty"_s.arg(path));
     }
     csv_parser parser{};
     csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI | CSV_REPALL_NL);
