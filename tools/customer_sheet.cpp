@@ -13,6 +13,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// As plain as a Chinese keyboard's wide letters, digits and blanks may be written.
+QString plain(const QString& text) {
+    static const QRegularExpression invisible(u"\\p{Cf}"_s);
+    return text.normalized(QString::NormalizationForm_KC).remove(invisible).trimmed();
+}
+
+/// A mobile number without what a spreadsheet adds to a number.
+QString written_plainly(const QString& mobile) {
+    static const QRegularExpression formula(uR"re(^="(.*)"$)re"_s);
+    static const QRegularExpression fraction(u"(?<=[0-9]{5})[.,]0+$"_s);
+    return plain(mobile).replace(formula, uR"(\1)"_s).remove(fraction);
+}
+
 /// Further headings that are understood, in lower case and without blanks.
 const QHash<QString, QStringList>& other_headings() {
     static const QHash<QString, QStringList> headings{
@@ -29,9 +42,9 @@ const QHash<QString, QStringList>& other_headings() {
     return headings;
 }
 
-/// The column that a heading names; empty when none.
+/// The column that a heading names, a remark in brackets aside; empty when none.
 QString column_of(QString heading) {
-    heading = heading.toLower().remove(QRegularExpression(u"[\\s:：*_]"_s));
+    heading = plain(heading).toLower().remove(QRegularExpression(uR"([\s:*_]|\(.*\))"_s));
     for (const auto& [column, written] : customer_columns()) {
         if (heading == column || heading == written ||
             other_headings().value(column).contains(heading)) {
@@ -50,10 +63,13 @@ public:
 
 private:
     void remark(const sheet_line& line, const QString& told);
+    /// Tells of values that trouble the client, and takes out line breaks.
+    void look_over(const sheet_line& line, customer_line& customer);
     /// Why a customer with this mobile number cannot be taken; empty when it can.
     [[nodiscard]] static QString objection(const QString& mobile);
 
-    QStringList columns_; ///< what each field is; empty for one that is not used
+    QStringList columns_;     ///< what each field is; empty for one that is not used
+    QSet<qsizetype> unnamed_; ///< those without a heading in which no value has been seen yet
     customer_sheet sheet_;
 };
 
@@ -64,7 +80,9 @@ customer_reader::customer_reader(const QString& path, const QStringList& heading
             throw failure(
                 u"%1: two headings mean the same, the second is %2"_s.arg(path, shown(heading)));
         }
-        if (column.isEmpty() && !heading.isEmpty()) {
+        if (heading.isEmpty()) {
+            unnamed_.insert(columns_.size());
+        } else if (column.isEmpty()) {
             sheet_.remarks.append(u"column %1 is not used"_s.arg(shown(heading)));
         }
         columns_.append(column);
@@ -81,9 +99,10 @@ void customer_reader::remark(const sheet_line& line, const QString& told) {
 }
 
 QString customer_reader::objection(const QString& mobile) {
-    static const QRegularExpression rounded(uR"(^[0-9][.,][0-9]+[eE][+]?[0-9]+$)"_s);
-    if (mobile.isEmpty()) {
-        return u"no mobile number"_s;
+    static const QRegularExpression rounded(uR"(^[0-9]([.,][0-9]+)?[eE][+]?[0-9]+$)"_s);
+    if (!mobile.contains(QRegularExpression(u"[0-9]"_s))) {
+        return mobile.isEmpty() ? u"no mobile number"_s
+                                : u"no mobile number but %1"_s.arg(shown(mobile));
     }
     if (mobile.contains(u'\'')) { // it would make every message to all customers fail
         return u"an apostrophe in the mobile number %1"_s.arg(shown(mobile));
@@ -92,6 +111,24 @@ QString customer_reader::objection(const QString& mobile) {
                ? u"the spreadsheet has rounded the mobile number to %1; make its column text"_s.arg(
                      shown(mobile))
                : QString();
+}
+
+void customer_reader::look_over(const sheet_line& line, customer_line& customer) {
+    static const QRegularExpression dialled(uR"(^\+?[0-9]+$)"_s);
+    if (const QString mobile = customer.values.value(u"mobile"_s);
+        !dialled.match(mobile_key(mobile)).hasMatch()) {
+        remark(line, u"more than digits in the mobile number %1"_s.arg(shown(mobile)));
+    }
+    for (auto value = customer.values.begin(); value != customer.values.end(); ++value) {
+        if (value->contains(u'\'')) {
+            remark(line,
+                   u"the client cannot save a text with an apostrophe: %1"_s.arg(shown(*value)));
+        }
+        if (value.key() != u"memo" && value->contains(QRegularExpression(u"[\\r\\n]"_s))) {
+            remark(line, u"line breaks become blanks: %1"_s.arg(shown(*value)));
+            *value = value->simplified();
+        }
+    }
 }
 
 void customer_reader::take(const sheet_line& line) {
@@ -106,7 +143,10 @@ void customer_reader::take(const sheet_line& line) {
         if (value.startsWith(u'\'')) {
             value.remove(0, 1); // what spreadsheets mark a text with
         }
-        value = column == u"mobile" ? value.trimmed() : value;
+        value = column == u"mobile" ? written_plainly(value) : value;
+        if (!value.isEmpty() && unnamed_.remove(i)) {
+            remark(line, u"column %1 is not used: it has no heading"_s.arg(i + 1));
+        }
         if (!column.isEmpty() && !value.isEmpty()) {
             customer.values.insert(column, value);
         }
@@ -116,16 +156,7 @@ void customer_reader::take(const sheet_line& line) {
         remark(line, u"left out: "_s + reason);
         return;
     }
-    for (auto value = customer.values.begin(); value != customer.values.end(); ++value) {
-        if (value->contains(u'\'')) {
-            remark(line,
-                   u"the client cannot save a text with an apostrophe: %1"_s.arg(shown(*value)));
-        }
-        if (value.key() != u"memo" && value->contains(QRegularExpression(u"[\\r\\n]"_s))) {
-            remark(line, u"line breaks become blanks: %1"_s.arg(shown(*value)));
-            *value = value->simplified();
-        }
-    }
+    look_over(line, customer);
     sheet_.customers.append(customer);
 }
 
@@ -138,9 +169,9 @@ const QList<std::pair<QString, QString>>& customer_columns() {
     return columns;
 }
 
-QString mobile_key(QString mobile) {
+QString mobile_key(const QString& mobile) {
     static const QRegularExpression grouping(u"[\\s()-]"_s);
-    return mobile.remove(grouping);
+    return plain(mobile).remove(grouping);
 }
 
 customer_sheet read_customers(const QString& path) {

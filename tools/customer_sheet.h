@@ -23,7 +23,7 @@ struct customer_sheet {
 [[nodiscard]] const QList<std::pair<QString, QString>>& customer_columns();
 
 /// Two numbers of one telephone have one key, however they are grouped.
-[[nodiscard]] QString mobile_key(QString mobile);
+[[nodiscard]] QString mobile_key(const QString& mobile);
 
 /// Reads customers from a file as `read_sheet` does. Throws failure also when no heading names the
 /// mobile number.

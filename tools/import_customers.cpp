@@ -35,12 +35,13 @@ semicolons or tabs. Its first line names the columns, in any order; only the mob
   --duplicates WAY   what becomes of a mobile number that a customer has already, or an earlier line:
                      skip it (the default), update that customer (empty fields leave what is there; of
                      several with that number the first), or add one more. Blanks and hyphens in the
-                     number make no difference.
+                     number make no difference; wide digits are carried as plain ones.
 
-Reported, a line each: lines left out for want of a mobile number, columns not used, duplicates, and texts
-with an apostrophe. Those are carried, but the client cannot save that customer until the apostrophe is
-taken out. A mobile number with one is left out, because no message to a group with it could be sent. An
-apostrophe at the very beginning of a field is the mark of a text and does not count.
+Reported, a line each: lines left out for want of a mobile number, columns not used, duplicates, mobile
+numbers that hold more than digits, and texts with an apostrophe. The client cannot save a customer with an
+apostrophe until it is taken out; a mobile number with one is left out, because no message to a group with
+it could be sent. An apostrophe at the very beginning of a field is the mark of a text and does not count,
+nor does ="…" around one.
 
 Exit status: 0 every line is in; 1 done, with a report; 2 nothing done.
 )";

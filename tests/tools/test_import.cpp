@@ -167,6 +167,12 @@ private slots:
         row("mobile,sex,name\n1-3,男,", "--duplicates update", u"1 updated"_s, u"1|旧|1-3|男|||"_s);
         row("mobile\n5\n5", "--duplicates add", u"line 3: added again: cust"_s, u"3||5||||"_s);
         row("mobile\n6", "--dry-run --class 新", u"changed: 1 customer(s)"_s, u"1|旧|13||||"_s);
+        row("sep=;\nＮａｍｅ;手　机（必填）\n甲;=\"１２\"", "", one, u"2|甲|12||||"_s);
+        row("mobile,\n5.0,\n无,\n6,x", "", u"line 3: left out: no mobile number but"_s,
+            u"3||6||||"_s);
+        row("mobile,\n5,x", "", u"line 2: column 2 is not used: it has no"_s, u"2||5||||"_s);
+        row("mobile,name\n1,张三\n2,\xc0\xee", "", u"line 3 is not in UTF-8"_s, u"1|旧|13||||"_s);
+        row("mobile,name\n1,\xc0\xee\xc0", "", u"is no text"_s, u"1|旧|13||||"_s);
         row("mobile\n\"6", "", u"line 2: a quotation mark"_s, u"1|旧|13||||"_s);
         row("name\n6", "", u"no heading names"_s, u"1|旧|13||||"_s);
     }
