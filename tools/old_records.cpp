@@ -42,7 +42,9 @@ old_records::~old_records() {
 }
 
 void old_records::refuse(const QString& reason) const {
-    throw failure(u"%1: %2"_s.arg(path_, reason));
+    const bool is_damaged = reason.startsWith(u"is damaged");
+    throw failure(
+        u"%1: %2%3"_s.arg(path_, reason, is_damaged ? u" (see smsdb import --help)"_s : QString()));
 }
 
 QJsonArray old_records::next_line() {
