@@ -15,8 +15,9 @@ constexpr QStringView begins_a_formula = u"=+-@\t\r\n＝＋－＠'";
 QString field(const QString& text) {
     const bool guarded = !text.isEmpty() && begins_a_formula.contains(text.front());
     QString written = guarded ? u'\'' + text : text;
+    // Also what other countries' spreadsheets would take for the end of a field.
     const bool quoted = std::any_of(written.cbegin(), written.cend(),
-                                    [](QChar c) { return QStringView(u",\"\r\n").contains(c); });
+                                    [](QChar c) { return QStringView(u",;\t\"\r\n").contains(c); });
     return quoted ? u'"' + written.replace(u'"', u"\"\""_s) + u'"' : written;
 }
 

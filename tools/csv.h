@@ -12,7 +12,7 @@ namespace csv {
 /// What a file begins with, so that a spreadsheet takes it for UTF-8.
 inline constexpr QByteArrayView byte_order_mark = "\xef\xbb\xbf";
 
-/// One line with its end. A field that holds a comma, a quote or a line break stands between
+/// One line with its end. A field that holds a separator, a quote or a line break stands between
 /// quotes, quotes in it doubled. A text that a spreadsheet would take for a formula gets an
 /// apostrophe before it, and so does one that begins with an apostrophe: taking one away gives back
 /// every text.
