@@ -193,6 +193,9 @@ const MdbColumn& jet_table::column_of(const MdbField& field) const {
 }
 
 QJsonArray jet_table::row_at(const place& found) {
+    if (found.length < 2) {
+        refuse(u"a row cannot be read"_s);
+    }
     std::vector<MdbField> fields(table_->num_cols);
     const int there = mdb_crack_row(table_.get(), found.start, found.length, fields.data());
     const row_marks marks({&file_.handle()->pg_buf[found.start], found.length},
