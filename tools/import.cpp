@@ -18,6 +18,7 @@
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <cstdio>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -40,6 +41,7 @@ the place of the delivered one when it is one of this system's lists and has a c
 What cannot be carried is reported, a line each with the numbers of the rows (rows without a number
 are counted as they stand in the file):
   - a row whose number is above 32767, missing, or given twice is left out
+  - a group's member or a right whose numbers do not fit is left out
   - any other number that does not fit is carried as 0, a date that cannot be read as empty
   - a message without a readable mark of having been sent counts as sent
   - tables and columns that only one of the two systems has are named
@@ -205,8 +207,12 @@ int run(const QCommandLineParser& arguments) {
     } catch (const DataError& error) {
         throw failure(describe(error, place));
     }
+    print(report);
+    if (std::fflush(stdout) != 0) { // whoever does not see what is lost is not to rely on it
+        throw failure(u"standard output cannot be written; %1 is not made"_s.arg(place));
+    }
     made.put_in_place();
-    print(report + u"imported %1 to %2\n"_s.arg(old, place));
+    print(u"imported %1 to %2\n"_s.arg(old, place));
     return is_whole ? exit_status::clean : exit_status::findings;
 }
 
