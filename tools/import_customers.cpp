@@ -14,6 +14,8 @@
 #include <QHash>
 #include <QSet>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -196,6 +198,16 @@ QString class_of(const QCommandLineParser& arguments) {
     return name;
 }
 
+/// The database, or for a trial a copy of it in memory, which keeps nobody waiting.
+std::unique_ptr<SqliteDatabase> opened(const QString& file, bool is_trial) {
+    if (!is_trial) {
+        return std::make_unique<SqliteDatabase>(file);
+    }
+    auto copy = std::make_unique<SqliteDatabase>(QString(), SqliteDatabase::Mode::memory);
+    SqliteDatabase(file, SqliteDatabase::Mode::read_only).copy_to(*copy);
+    return copy;
+}
+
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().at(1);
     const bool is_trial = arguments.isSet(u"dry-run"_s);
@@ -205,13 +217,13 @@ int run(const QCommandLineParser& arguments) {
     QStringList remarks = sheet.remarks;
     QString summary;
     try {
-        SqliteDatabase database(file);
-        database.execute(u"BEGIN IMMEDIATE"_s);
-        customer_importer importing(database, way, into_class);
+        const std::unique_ptr<SqliteDatabase> database = opened(file, is_trial);
+        database->execute(u"BEGIN IMMEDIATE"_s);
+        customer_importer importing(*database, way, into_class);
         for (const customer_line& line : sheet.customers) {
             importing.take(line);
         }
-        database.execute(is_trial ? u"ROLLBACK"_s : u"COMMIT"_s);
+        database->execute(u"COMMIT"_s);
         remarks += importing.remarks();
         summary = importing.summary();
     } catch (const DataError& error) {

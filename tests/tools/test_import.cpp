@@ -199,6 +199,10 @@ private slots:
         QCOMPARE(run(u"smsdb export-customers DIR/n DIR/2; cmp DIR/1 DIR/2"_s), 0);
         QCOMPARE(run(u"smsdb check DIR/n | grep '^cgroup.gid  *1 '"_s), 0);
         QCOMPARE(run(u"smsdb export-customers FILE DIR/1"_s), 2);
+        const QString trial = u"smsdb import-customers --dry-run DIR/1 DIR/o"_s;
+        QCOMPARE(run(u"smsdb import $FIXTURES/jet3-small.mdb DIR/o; md5sum DIR/o >DIR/s; "_s +
+                     trial + u"; md5sum -c DIR/s"_s),
+                 0);
     }
 };
 
