@@ -5,9 +5,9 @@
 
 #include <QProxyStyle>
 
-/// The desktop's style, but for the symbols that it draws in black on whatever colour: the arrow
-/// behind a tool or menu bar that is too long, and the buttons of a maximised list window. In a
-/// dark window nobody would see them.
+/// The desktop's style, but for what it draws in black on whatever colour: the arrow behind a tool
+/// or menu bar that is too long, the buttons of list windows, the outlines of boxes to tick, the
+/// lines of a grid. In a dark window nobody would see them.
 class readable_style : public QProxyStyle {
     Q_OBJECT
 
@@ -16,4 +16,10 @@ public:
 
     [[nodiscard]] QIcon standardIcon(StandardPixmap symbol, const QStyleOption* option,
                                      const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
 };

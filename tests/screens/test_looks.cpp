@@ -14,8 +14,10 @@
 #include "operators/frmuser.h"
 #include "tests/screens/screen_fixture.h"
 
+#include <QCheckBox>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QRadioButton>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +32,13 @@ void check_keys(const QList<Item*>& items) {
         QVERIFY2(!keys.contains(key), qPrintable(key.toString()));
         keys += key.isEmpty() ? QSet<QKeySequence>() : QSet{key};
     }
+}
+
+[[nodiscard]] bool has_light(const QPixmap& picture) {
+    const QImage on_black = picture.toImage().convertToFormat(QImage::Format_RGB32);
+    const QList<QRgb> all = on_black.convertToFormat(QImage::Format_Indexed8).colorTable();
+    return std::any_of(all.begin(), all.end(),
+                       [](QRgb colour) { return QColor(colour).lightness() > 150; });
 }
 
 /// Whoever cannot see a window or has no mouse needs names, and a road as one reads.
@@ -105,11 +114,6 @@ private slots:
         screen_fixture program;
         test_database::execute(
             u"insert into sendsms values (1, '13912345678', '好', 0, 0, 0, 0, '2024/01/31 08:00:00', '2024/01/31 08:00:00')"_s);
-        const QIcon arrow =
-            QApplication::style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
-        const QImage on_black = arrow.pixmap(16).toImage().convertToFormat(QImage::Format_RGB32);
-        const QImage drawn = on_black.convertToFormat(QImage::Format_Indexed8);
-        QVERIFY(drawn.colorTable().contains(dark.windowText().color().rgb()));
         for (const QWidget* menu : program.window.findChildren<QWidget*>()) {
             check_keys(menu->actions());
         }
@@ -131,6 +135,25 @@ private slots:
               frmLogin(), frmserver(), frmuser(), frmFind(columns), frmSort(columns),
               frmref(columns, rows), frmSetList(columns), frmconduser({}, none), frmRights(),
               frmAbout(*system_registry()));
+    }
+
+    void what_the_style_draws_turns_light_with_a_dark_desktop() {
+        QApplication::setPalette(QPalette(Qt::lightGray));
+        screen_fixture program;
+        const frmdatagrid& behind = program.list(u"mnugroup"_s);
+        const frmdatagrid& active = program.list(u"mnuCreTech"_s);
+        person::choose(program.window, u"mnuWindowCascade"_s);
+        const QIcon arrow =
+            QApplication::style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+        QApplication::setPalette(QPalette(QColor(0x31363b)));
+        QCoreApplication::processEvents(); // every window hears of it
+        QVERIFY(has_light(arrow.pixmap(16)));
+        QVERIFY(has_light(QCheckBox().grab()));
+        QVERIFY(has_light(QRadioButton().grab()));
+        const QSize buttons(60, 20); // at the end of the title bar
+        for (QWidget* window : {behind.parentWidget(), active.parentWidget()}) {
+            QVERIFY(has_light(window->grab({{window->width() - 70, 4}, buttons})));
+        }
     }
 };
 
