@@ -70,7 +70,6 @@ frmAbout::frmAbout(const Registry& registry, QWidget* parent)
     cmdOK->setDefault(true);
     auto* cmdSysInfo = new QPushButton(u"&系统信息..."_s);
     cmdSysInfo->setObjectName(u"cmdSysInfo"_s);
-    cmdSysInfo->setAutoDefault(false);
     layout->addWidget(cmdOK, 8, 2);
     layout->addWidget(cmdSysInfo, 9, 2);
     layout->setColumnStretch(1, 1);

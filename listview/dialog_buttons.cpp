@@ -17,7 +17,6 @@ dialog_buttons add_buttons(QDialog& dialog, QBoxLayout& layout, const QString& o
     row->addWidget(buttons.ok);
     row->addWidget(buttons.cancel);
     buttons.ok->setDefault(true);
-    buttons.cancel->setAutoDefault(false);
     QObject::connect(buttons.cancel, &QPushButton::clicked, &dialog, &QDialog::reject);
     return buttons;
 }

@@ -177,7 +177,6 @@ QPushButton* edit_dialog::add_picker_button(const QString& name, QWidget& box,
     button->setObjectName(name);
     button->setToolTip(purpose);
     button->setAccessibleName(purpose);
-    button->setAutoDefault(false);
     button->setFixedWidth(button->fontMetrics().averageCharWidth() * 6);
     row_of(box).addWidget(button, 0, Qt::AlignTop);
     return button;

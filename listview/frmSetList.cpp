@@ -54,10 +54,8 @@ frmSetList::frmSetList(spListHeaders& headers, QWidget* parent)
     body->addWidget(MSHFlexGrid1);
     auto* movers = new QVBoxLayout;
     body->addLayout(movers);
-    for (QPushButton* mover : {cmdUP, cmdDown}) {
-        mover->setAutoDefault(false);
-        movers->addWidget(mover);
-    }
+    movers->addWidget(cmdUP);
+    movers->addWidget(cmdDown);
     movers->addStretch();
     const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
     buttons.ok->setObjectName(u"cmdOK"_s);

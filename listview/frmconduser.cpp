@@ -28,7 +28,6 @@ frmconduser::frmconduser(operation_condition shown, vc_in& operators, QWidget* p
     cmdref->setObjectName(u"cmdref"_s);
     cmdref->setToolTip(u"选择操作员"_s);
     cmdref->setAccessibleName(cmdref->toolTip());
-    cmdref->setAutoDefault(false);
     txtuserid =
         add_labelled_box(*form, u"lblFieldLabel"_s, u"操作员号："_s, u"txtuserid"_s, {}, cmdref);
     txtsdate = add_labelled_box(*form, u"lblFieldLabel"_s, u"开始日期："_s, u"txtsdate"_s);

@@ -146,7 +146,7 @@ private slots:
                                QMessageBox::NoIcon);
             person::click(dialog, u"cmdSysInfo"_s);
             QCOMPARE(person::text_of(dialog, u"lblVersion"_s), u"版本：1.0.1 belta2"_s);
-            person::press_key(dialog, Qt::Key_Return);
+            person::click(dialog, u"cmdOK"_s);
         });
         person::choose(program_->window, u"mnuHelpAbout"_s);
     }

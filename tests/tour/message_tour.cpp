@@ -224,7 +224,7 @@ void change_the_layout(frmMain& window) {
         guide::step(u"layout-editor"_s,
                     u"编号|√ / 手机|√ / 客户名称|√ / 性别|√ / 生日|  / 电话|√ / 备注|√"_s,
                     {rows_of(columns, 0, 1)});
-        person::press_key(editor, Qt::Key_Return);
+        person::click(editor, u"cmdOK"_s);
     });
     press(window, u"setfield"_s);
     guide::step(u"layout-changed"_s, u"编号|手机|客户名称|性别|电话|备注"_s, {layout_of(window)});
