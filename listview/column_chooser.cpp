@@ -58,6 +58,11 @@ column_chooser::column_chooser(const spListHeaders& headers, const QString& capt
     connect(buttons.ok, &QPushButton::clicked, this, &column_chooser::confirm);
 }
 
+void column_chooser::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    setAttribute(Qt::WA_KeyboardFocusChange); // or the list shows its focus only after a Tab
+}
+
 void column_chooser::add_row(const QString& label, QWidget* field) {
     form_->addRow(label, field);
     field->setAccessibleName(label);

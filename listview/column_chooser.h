@@ -28,6 +28,7 @@ protected:
 
     /// A labelled row between the column and the options.
     void add_row(const QString& label, QWidget* field);
+    void showEvent(QShowEvent* event) override;
     void choose_option(size_t index);
     [[nodiscard]] bool is_first_option() const;
     /// The text for the record set, from the chosen column's key.

@@ -7,6 +7,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QStyleOption>
+#include <qdrawutil.h>
 
 namespace {
 
@@ -83,6 +84,9 @@ void readable_style::drawPrimitive(PrimitiveElement element, const QStyleOption*
         painter->restore();
     } else {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+    if (element == PE_Frame && option->state.testFlag(State_HasFocus)) {
+        qDrawPlainRect(painter, option->rect, option->palette.highlight().color());
     }
 }
 

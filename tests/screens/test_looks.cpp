@@ -156,6 +156,8 @@ private slots:
         for (QWidget* window : {behind.parentWidget(), active.parentWidget()}) {
             QVERIFY(has_light(window->grab({{window->width() - 70, 4}, buttons})));
         }
+        const QImage grid = grid_of(active).grab().toImage(); // has the focus
+        QCOMPARE(grid.pixelColor(0, 0), QApplication::palette().highlight().color());
     }
 };
 
