@@ -57,6 +57,11 @@ frmdatagrid::~frmdatagrid() {
     DataGrid1->set_recordset(nullptr);
 }
 
+void frmdatagrid::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    setFocus(); // its frame hides it when it changes its state, and the focus moves on
+}
+
 void frmdatagrid::press(const QString& key) {
     static const QHash<QString, void (frmdatagrid::*)()> commands{
         {u"Add"_s, &frmdatagrid::faddnew},       {u"Edit"_s, &frmdatagrid::Fedit},

@@ -52,6 +52,7 @@ public:
     [[nodiscard]] QString value(const QString& column_key) const;
 
 private:
+    void showEvent(QShowEvent* event) override;
     void press(const QString& key);
     /// Runs a command of the controller, tells when it fails, and shows the rows anew in any case.
     void run_and_refresh(const std::function<void()>& command, const QString& failure);

@@ -152,9 +152,9 @@ private slots:
         QVERIFY(has_light(arrow.pixmap(16)));
         QVERIFY(has_light(QCheckBox().grab()));
         QVERIFY(has_light(QRadioButton().grab()));
-        const QSize buttons(60, 20); // at the end of the title bar
         for (QWidget* window : {behind.parentWidget(), active.parentWidget()}) {
-            QVERIFY(has_light(window->grab({{window->width() - 70, 4}, buttons})));
+            // the buttons at the end of the title bar
+            QVERIFY(has_light(window->grab({{window->width() - 70, 4}, QSize(60, 20)})));
         }
         const QImage grid = grid_of(active).grab().toImage(); // has the focus
         QCOMPARE(grid.pixelColor(0, 0), QApplication::palette().highlight().color());

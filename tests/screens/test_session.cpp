@@ -167,6 +167,7 @@ private slots:
     }
 
     void tiles_windows() {
+        QVERIFY(QTest::qWaitForWindowActive(&program_->window));
         static_cast<void>(program_->list(u"mnuProject"_s));
         static_cast<void>(program_->list(u"mnuCreTech"_s));
         const auto windows = program_->area.subWindowList();
@@ -177,6 +178,7 @@ private slots:
             person::choose(program_->window, item);
             QCOMPARE(windows[0]->size() + windows[1]->size(), both);
             QVERIFY(!windows[0]->geometry().intersects(windows[1]->geometry()));
+            QVERIFY(program_->window.focusWidget()->inherits("DataGrid"));
         }
     }
 
