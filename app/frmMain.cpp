@@ -68,6 +68,8 @@ frmMain::frmMain(std::unique_ptr<QMdiArea> windows, const controllers& opened,
       operator_panel_(new QLabel(this)) {
     setWindowTitle(application_title());
     setCentralWidget(windows_);
+    windows_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    windows_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     build_system_menu();
     build_work_menu();
     build_gateway_menu();

@@ -23,7 +23,7 @@ QList<QMdiSubWindow*> windows_of(const QMdiArea& area, bool minimised) {
 /// One above the other or side by side; the last window takes what the division leaves over.
 void tile(QMdiArea& area, Qt::Orientation divided) {
     const QList<QMdiSubWindow*> windows = windows_of(area, false);
-    const QSize room = area.viewport()->size();
+    const QSize room = area.maximumViewportSize();
     const auto count = static_cast<int>(windows.size());
     for (int i = 0; i < count; ++i) {
         windows[i]->showNormal();
@@ -39,7 +39,7 @@ void tile(QMdiArea& area, Qt::Orientation divided) {
 
 /// From the lower left corner to the right, row above row.
 void line_up_icons(QMdiArea& area) {
-    const QSize room = area.viewport()->size();
+    const QSize room = area.maximumViewportSize();
     int left = 0;
     int bottom = room.height();
     for (QMdiSubWindow* icon : windows_of(area, true)) {
