@@ -85,8 +85,11 @@ void readable_style::drawPrimitive(PrimitiveElement element, const QStyleOption*
     } else {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
-    if (element == PE_Frame && option->state.testFlag(State_HasFocus)) {
-        qDrawPlainRect(painter, option->rect, option->palette.highlight().color());
+    if (element == PE_Frame) { // between 100 % and 200 % it would have lost some of its sides
+        const QColor usual = option->palette.window().color().darker(130);
+        const bool focused = option->state.testFlag(State_HasFocus);
+        qDrawPlainRect(painter, option->rect,
+                       focused ? option->palette.highlight().color() : usual);
     }
 }
 
