@@ -109,7 +109,9 @@ void jet_table::check_columns() {
             is_sound = is_sound && column->var_col_num < table_->num_var_cols &&
                        texts.insert(column->var_col_num).second;
         }
-        for (int i = 0; column->is_fixed != 0 && i < column->col_size; ++i) {
+        // The value of a Boolean takes no bytes but stands in the marks.
+        const bool takes_bytes = column->is_fixed != 0 && column->col_type != MDB_BOOL;
+        for (int i = 0; takes_bytes && i < column->col_size; ++i) {
             is_sound = is_sound && taken.insert(column->fixed_offset + i).second;
         }
         if (!is_sound) {
