@@ -4,10 +4,8 @@
 #include "directory/frmGroup.h"
 
 #include "listview/vc_in.h"
-#include "platform/guarded.h"
 
 #include <QLineEdit>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -16,15 +14,13 @@ frmGroup::frmGroup(vc_in& classes, vc_in& customers, QWidget* parent)
     add_number(u"txtgid"_s, u"User ID:"_s, record.gid);
     txtCcname = add_line(u"txtCcname"_s, u"分组名称："_s, record.cname);
     txtccID = add_number_beside(*txtCcname, u"txtccID"_s, u"分类编号"_s, record.ccid);
-    auto* cmdref = add_picker_button(u"cmdref"_s, *txtCcname, u"选择客户分类"_s);
+    add_picker_button(u"cmdref"_s, *txtCcname, u"选择客户分类"_s,
+                      [this, &classes] { pick_class(classes); });
     txtcid = add_number(u"txtcid"_s, u"User ID:"_s, record.cid);
-    auto* Cmdrefcus = add_picker_button(u"Cmdrefcus"_s, *txtcid, u"选择客户"_s);
+    add_picker_button(u"Cmdrefcus"_s, *txtcid, u"选择客户"_s,
+                      [this, &customers] { pick_customer(customers); });
     txtcusname = add_line(u"txtcusname"_s, u"客户名称："_s, record.cusname);
     txtMobile = add_line(u"txtMobile"_s, u"手机号码："_s, record.mobile);
-    connect(cmdref, &QPushButton::clicked, this,
-            guarded([this, &classes] { pick_class(classes); }));
-    connect(Cmdrefcus, &QPushButton::clicked, this,
-            guarded([this, &customers] { pick_customer(customers); }));
     finish(*txtCcname);
 }
 

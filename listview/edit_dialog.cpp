@@ -6,6 +6,7 @@
 #include "listview/dialog_buttons.h"
 #include "platform/conversion.h"
 #include "platform/data_error.h"
+#include "platform/guarded.h"
 #include "platform/widgets/msgbox.h"
 
 #include <QCheckBox>
@@ -171,15 +172,18 @@ QCheckBox* edit_dialog::add_check(const QString& name, const QString& caption, q
     return box;
 }
 
-QPushButton* edit_dialog::add_picker_button(const QString& name, QWidget& box,
-                                            const QString& purpose) {
+void edit_dialog::add_picker_button(const QString& name, QWidget& box, const QString& purpose,
+                                    const std::function<void()>& pick) {
     auto* button = new QPushButton(u"…"_s, this);
     button->setObjectName(name);
     button->setToolTip(purpose);
     button->setAccessibleName(purpose);
     button->setFixedWidth(button->fontMetrics().averageCharWidth() * 6);
     row_of(box).addWidget(button, 0, Qt::AlignTop);
-    return button;
+    connect(button, &QPushButton::clicked, this, guarded([pick, &box] {
+                pick();
+                box.setFocus();
+            }));
 }
 
 QHBoxLayout& edit_dialog::row_of(const QWidget& box) const {

@@ -12,9 +12,8 @@ frmGsendsms::frmGsendsms(vc_in& classes, vc_in& phrases, clock_source now, QWidg
     add_number(u"txtGSID"_s, u"User ID:"_s, record.gsid);
     txtCname = add_line(u"txtCname"_s, u"群组名称："_s, record.cname);
     txtCid = add_number_beside(*txtCname, u"txtCid"_s, u"分类编号"_s, record.cid);
-    auto* Cmdrefcus = add_picker_button(u"Cmdrefcus"_s, *txtCname, u"选择客户分类"_s);
-    connect(Cmdrefcus, &QPushButton::clicked, this,
-            guarded([this, &classes] { pick_class(classes); }));
+    add_picker_button(u"Cmdrefcus"_s, *txtCname, u"选择客户分类"_s,
+                      [this, &classes] { pick_class(classes); });
     add_check(u"Chkall"_s, u"向所有的客户发送？"_s, record.isall);
     add_message_rows(phrases);
     finish(*txtCname);

@@ -14,9 +14,8 @@ frmSendsms::frmSendsms(vc_in& customers, vc_in& phrases, clock_source now, QWidg
     txtCid = add_converted_beside(
         *txtCname, u"txtCid"_s, u"客户编号"_s, [this] { return QString::number(record.cid); },
         [this](const QString& text) { record.cid = text.isEmpty() ? qint16{0} : to_int16(text); });
-    auto* Cmdrefcus = add_picker_button(u"Cmdrefcus"_s, *txtCname, u"选择客户"_s);
-    connect(Cmdrefcus, &QPushButton::clicked, this,
-            guarded([this, &customers] { pick_customer(customers); }));
+    add_picker_button(u"Cmdrefcus"_s, *txtCname, u"选择客户"_s,
+                      [this, &customers] { pick_customer(customers); });
     txtMobile = add_line(u"txtMobile"_s, u"手机号码："_s, record.mobile);
     add_message_rows(phrases);
     finish(*txtMobile);

@@ -8,10 +8,8 @@
 #include "listview/vc_in.h"
 #include "messaging/sms_length.h"
 #include "platform/conversion.h"
-#include "platform/guarded.h"
 
 #include <QPlainTextEdit>
-#include <QPushButton>
 
 /// What the dialogs of single messages and of group sends have in common: the text with its phrase
 /// picker, and the send time. A send time left as shown makes the message immediate.
@@ -28,14 +26,13 @@ protected:
     /// Adds the rows of the text and the send time.
     void add_message_rows(vc_in& phrases) {
         auto* txtSms = add_text(QStringLiteral("txtSms"), QStringLiteral("短信："), record.sms);
-        auto* cmdrefsms =
-            add_picker_button(QStringLiteral("cmdrefsms"), *txtSms, QStringLiteral("选择常用短语"));
-        connect(cmdrefsms, &QPushButton::clicked, this, guarded([&phrases, txtSms] {
-                    const auto picked = phrases.Ref();
-                    if (picked && !picked->picked(QStringLiteral("mid")).isEmpty()) {
-                        txtSms->setPlainText(picked->picked(QStringLiteral("text")));
-                    }
-                }));
+        add_picker_button(QStringLiteral("cmdrefsms"), *txtSms, QStringLiteral("选择常用短语"),
+                          [&phrases, txtSms] {
+                              const auto picked = phrases.Ref();
+                              if (picked && !picked->picked(QStringLiteral("mid")).isEmpty()) {
+                                  txtSms->setPlainText(picked->picked(QStringLiteral("text")));
+                              }
+                          });
         add_note(QStringLiteral("lblLength"), *txtSms, sms_length::tell);
         add_converted(
             QStringLiteral("txtStime"), QStringLiteral("发送时间："),

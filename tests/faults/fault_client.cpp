@@ -7,6 +7,7 @@
 #include "listview/frmdatagrid.h"
 #include "tests/support/person.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QSettings>
 #include <QTimer>

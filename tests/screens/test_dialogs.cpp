@@ -160,6 +160,7 @@ private slots:
             pick(u"cmdcancel"_s);
             person::click(dialog, u"Cmdrefcus"_s);
             QCOMPARE(person::text_of(dialog, u"txtMobile"_s), u"139"_s);
+            QCOMPARE(dialog.focusWidget()->objectName(), u"txtCname"_s);
             person::type(dialog, u"txtCid"_s, {});
             expect_saved(saved, QMessageBox::No);
             person::click(dialog, u"cmdok"_s);
