@@ -4,6 +4,7 @@
 #include "tools/console.h"
 
 #include "platform/data_error.h"
+#include "tools/command.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -12,6 +13,12 @@ using namespace Qt::StringLiterals;
 
 void print(const QString& text) {
     std::fputs(text.toLocal8Bit().constData(), stdout);
+}
+
+void flush_output() {
+    if (std::fflush(stdout) != 0) {
+        throw failure(u"standard output cannot be written"_s);
+    }
 }
 
 void complain(const QString& what) {

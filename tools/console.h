@@ -11,6 +11,10 @@ class DataError;
 /// Writes a text to standard output.
 void print(const QString& text);
 
+/// Writes out what was printed. Throws failure when it cannot be: whoever does not see a report is
+/// not to rely on what was done.
+void flush_output();
+
 /// Writes one line to standard error, after the program's name.
 void complain(const QString& what);
 

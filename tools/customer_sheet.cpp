@@ -171,7 +171,8 @@ const QList<std::pair<QString, QString>>& customer_columns() {
 
 QString mobile_key(const QString& mobile) {
     static const QRegularExpression grouping(u"[\\s()-]"_s);
-    return plain(mobile).remove(grouping);
+    static const QRegularExpression country(u"^(\\+|00)?86(?=1[0-9]{10}$)"_s);
+    return plain(mobile).remove(grouping).remove(country);
 }
 
 customer_sheet read_customers(const QString& path) {

@@ -18,7 +18,6 @@
 #include <QStringDecoder>
 
 #include <algorithm>
-#include <cstdio>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -211,9 +210,7 @@ int run(const QCommandLineParser& arguments) {
         throw failure(describe(error, place));
     }
     print(report);
-    if (std::fflush(stdout) != 0) { // whoever does not see what is lost is not to rely on it
-        throw failure(u"standard output cannot be written; %1 is not made"_s.arg(place));
-    }
+    flush_output();
     made.put_in_place();
     print(u"imported %1 to %2\n"_s.arg(old, place));
     return is_whole ? exit_status::clean : exit_status::findings;

@@ -37,7 +37,8 @@ semicolons or tabs. Its first line names the columns, in any order; only the mob
   --duplicates WAY   what becomes of a mobile number that a customer has already, or an earlier line:
                      skip it (the default), update that customer (empty fields leave what is there; of
                      several with that number the first), or add one more. Blanks and hyphens in the
-                     number make no difference; wide digits are carried as plain ones.
+                     number make no difference, nor does +86 before it; wide digits are carried
+                     as plain ones.
 
 Reported, a line each: lines left out for want of a mobile number, columns not used, duplicates, mobile
 numbers that hold more than digits, and texts with an apostrophe. The client cannot save a customer with an
@@ -214,8 +215,6 @@ int run(const QCommandLineParser& arguments) {
     const duplicates way = way_of(arguments.value(u"duplicates"_s));
     const QString into_class = class_of(arguments);
     const customer_sheet sheet = read_customers(arguments.positionalArguments().at(0));
-    QStringList remarks = sheet.remarks;
-    QString summary;
     try {
         const std::unique_ptr<SqliteDatabase> database = opened(file, is_trial);
         database->execute(u"BEGIN IMMEDIATE"_s);
@@ -223,17 +222,17 @@ int run(const QCommandLineParser& arguments) {
         for (const customer_line& line : sheet.customers) {
             importing.take(line);
         }
+        const QStringList remarks = sheet.remarks + importing.remarks();
+        for (const QString& remark : remarks) {
+            print(remark + u'\n');
+        }
+        print((is_trial ? u"dry run, nothing is changed: "_s : QString()) + importing.summary());
+        flush_output();
         database->execute(u"COMMIT"_s);
-        remarks += importing.remarks();
-        summary = importing.summary();
+        return remarks.isEmpty() ? exit_status::clean : exit_status::findings;
     } catch (const DataError& error) {
         throw failure(describe(error, file));
     }
-    for (const QString& remark : remarks) {
-        print(remark + u'\n');
-    }
-    print((is_trial ? u"dry run, nothing is changed: "_s : QString()) + summary);
-    return remarks.isEmpty() ? exit_status::clean : exit_status::findings;
 }
 
 } // namespace

@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -87,9 +86,7 @@ int main(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     try {
         const int status = run(QCoreApplication::arguments());
-        if (std::fflush(stdout) != 0) {
-            throw failure(u"standard output cannot be written"_s);
-        }
+        flush_output();
         return status;
     } catch (const std::exception& error) {
         complain(QString::fromUtf8(error.what()));
