@@ -3,6 +3,7 @@
 
 #include "platform/recordset.h"
 
+#include "platform/bound_statement.h"
 #include "platform/connection_pool.h"
 #include "platform/criterion.h"
 #include "platform/data_error.h"
@@ -35,20 +36,6 @@ void append_cell(RowStore& store, sqlite3_stmt* row, int column) {
         const auto* bytes = static_cast<const char*>(sqlite3_column_blob(row, column));
         store.append_text({bytes, static_cast<qsizetype>(sqlite3_column_bytes(row, column))});
     }
-    }
-}
-
-void bind_cell(sqlite3_stmt* statement, int parameter, const QVariant& value) {
-    if (value.isNull()) {
-        sqlite3_bind_null(statement, parameter);
-    } else if (value.typeId() == QMetaType::QString) {
-        const QByteArray utf8 = value.toString().toUtf8();
-        sqlite3_bind_text(statement, parameter, utf8.constData(), static_cast<int>(utf8.size()),
-                          SQLITE_TRANSIENT);
-    } else if (value.typeId() == QMetaType::Double) {
-        sqlite3_bind_double(statement, parameter, value.toDouble());
-    } else {
-        sqlite3_bind_int64(statement, parameter, value.toLongLong());
     }
 }
 
@@ -246,20 +233,23 @@ void Recordset::Update() {
     dirty_.clear();
 }
 
+QVariantList Recordset::changed_values(qsizetype row) const {
+    QVariantList values;
+    for (const qsizetype column : dirty_) {
+        values.append(store_.value(row, column));
+    }
+    return values;
+}
+
 void Recordset::store_new_row(qsizetype row) {
     QStringList names;
-    QStringList marks;
     for (const qsizetype column : dirty_) {
         names.append(u"[%1]"_s.arg(store_.columns().at(column)));
-        marks.append(u"?"_s);
     }
-    const auto statement = database().prepare(
-        u"INSERT INTO [%1] (%2) values (%3)"_s.arg(table_, names.join(u','), marks.join(u',')));
-    int parameter = 0;
-    for (const qsizetype column : dirty_) {
-        bind_cell(statement.get(), ++parameter, store_.value(row, column));
-    }
-    database().step(statement);
+    const QStringList marks(names.size(), u"?"_s);
+    bound_statement(database(), u"INSERT INTO [%1] (%2) values (%3)"_s.arg(table_, names.join(u','),
+                                                                           marks.join(u',')))
+        .run(changed_values(row));
     row_ids_.at(static_cast<size_t>(row)) = database().last_insert_rowid();
 }
 
@@ -268,14 +258,10 @@ void Recordset::store_changed_row(qsizetype row) {
     for (const qsizetype column : dirty_) {
         settings.append(u"[%1]=?"_s.arg(store_.columns().at(column)));
     }
-    const auto statement =
-        database().prepare(u"update [%1] set %2 where rowid=?"_s.arg(table_, settings.join(u',')));
-    int parameter = 0;
-    for (const qsizetype column : dirty_) {
-        bind_cell(statement.get(), ++parameter, store_.value(row, column));
-    }
-    bind_cell(statement.get(), ++parameter, QVariant(row_ids_.at(static_cast<size_t>(row))));
-    database().step(statement);
+    const qint64 row_id = row_ids_.at(static_cast<size_t>(row));
+    bound_statement(database(),
+                    u"update [%1] set %2 where rowid=?"_s.arg(table_, settings.join(u',')))
+        .run(changed_values(row) << row_id);
 }
 
 qsizetype Recordset::store_row(qsizetype row) const {

@@ -76,6 +76,7 @@ private:
     [[nodiscard]] qsizetype require_column(const QString& name) const;
     [[nodiscard]] SqliteDatabase& database();
     void read_rows(const QString& statement);
+    [[nodiscard]] QVariantList changed_values(qsizetype row) const;
     void store_new_row(qsizetype row);
     void store_changed_row(qsizetype row);
 

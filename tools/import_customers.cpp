@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "platform/bound_statement.h"
 #include "platform/data_error.h"
 #include "platform/sqlite_database.h"
-#include "tools/bound_statement.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/customer_sheet.h"

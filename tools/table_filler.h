@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "tools/bound_statement.h"
+#include "platform/bound_statement.h"
 #include "tools/losses.h"
 #include "tools/old_values.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/bound_statement.h"
+#include "platform/bound_statement.h"
 
 #include <sqlite3.h>
 
@@ -20,6 +20,8 @@ void bound_statement::run(const QVariantList& values) {
             sqlite3_bind_text64(statement_.get(), place, text.constData(),
                                 static_cast<sqlite3_uint64>(text.size()), SQLITE_TRANSIENT,
                                 SQLITE_UTF8);
+        } else if (value.typeId() == QMetaType::Double) {
+            sqlite3_bind_double(statement_.get(), place, value.toDouble());
         } else {
             sqlite3_bind_int64(statement_.get(), place, value.toLongLong());
         }
