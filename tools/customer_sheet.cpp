@@ -7,7 +7,9 @@
 #include "tools/console.h"
 #include "tools/sheet.h"
 
+#include <QHash>
 #include <QRegularExpression>
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -22,7 +24,7 @@ QString plain(const QString& text) {
 /// A mobile number without what a spreadsheet adds to a number.
 QString written_plainly(const QString& mobile) {
     static const QRegularExpression formula(uR"re(^="(.*)"$)re"_s);
-    static const QRegularExpression fraction(u"(?<=[0-9]{5})[.,]0+$"_s);
+    static const QRegularExpression fraction(u"(?<=[0-9]{5})[.,]0{1,2}$"_s);
     return plain(mobile).replace(formula, uR"(\1)"_s).remove(fraction);
 }
 
@@ -77,8 +79,8 @@ customer_reader::customer_reader(const QString& path, const QStringList& heading
     for (const QString& heading : headings) {
         const QString column = column_of(heading);
         if (!column.isEmpty() && columns_.contains(column)) {
-            throw failure(
-                u"%1: two headings mean the same, the second is %2"_s.arg(path, shown(heading)));
+            throw failure(u"%1: the headings %2 and %3 mean the same"_s.arg(
+                path, shown(headings.at(columns_.indexOf(column))), shown(heading)));
         }
         if (heading.isEmpty()) {
             unnamed_.insert(columns_.size());

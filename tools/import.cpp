@@ -32,7 +32,7 @@ write them). OLD.mdb is only read. NEW must not exist; it appears when everythin
   --charset NAME   what the texts of a Jet 3 file are written in (default: GBK, which is code page 936)
 
 Tables and columns are matched by name without regard to case. A table that is missing or empty in
-OLD.mdb is that of a fresh database: so are the functions, the gateway parameters, the first operator
+OLD.mdb gets what a fresh database holds: the functions, the gateway parameters, the first operator
 with an empty password. Numbers of rows stay, and new rows are numbered on from the highest. Moments
 become yyyy/mm/dd hh:mm:ss, Yes/No becomes -1/0 (1/0 for messages read). The definition of a list takes
 the place of the delivered one when it is one of this system's lists and has a column.

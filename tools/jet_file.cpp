@@ -138,6 +138,9 @@ std::optional<QByteArrayView> jet_file::piece(quint32 page_and_row) {
 std::optional<QString> jet_file::long_text(QByteArrayView field) {
     constexpr quint32 in_the_row = 0x80000000;
     constexpr quint32 in_one_piece = 0x40000000;
+    if (field.isEmpty()) {
+        return QString();
+    }
     if (field.size() < MDB_MEMO_OVERHEAD) {
         return {};
     }

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <set>
 #include <vector>
 
@@ -85,21 +86,21 @@ jet_table::jet_table(jet_file& file, const jet_file::table& which)
              sizeof(entry_->object_name));
     table_.reset(mdb_read_table(entry_.get()));
     if (table_ == nullptr || mdb_read_columns(table_.get()) == nullptr ||
-        table_->columns->len != table_->num_cols) {
+        table_->columns->len != table_->num_cols || !columns_are_sound()) {
         refuse(u"its columns cannot be read"_s);
     }
-    check_columns();
 }
 
-/// Refuses columns that no table can have: they would be read from where something else stands.
-void jet_table::check_columns() {
+/// Columns that no table can have would be read from where something else stands.
+bool jet_table::columns_are_sound() {
     MdbHandle* handle = file_.handle();
     mdb_read_pg(handle, entry_->table_pg);
+    // Two fields before the number of columns; the library does not read it.
     columns_ever_ = mdb_get_int16(static_cast<unsigned char*>(handle->pg_buf),
                                   handle->fmt->tab_num_cols_offset - 4);
     std::set<QString> names;
     std::set<int> numbers;
-    std::set<unsigned int> texts;
+    std::set<unsigned int> places;
     std::set<int> taken; // bytes of the fixed part
     for (const MdbColumn* column : column_list()) {
         const QString name = QString::fromUtf8(static_cast<const char*>(column->name)).toLower();
@@ -107,7 +108,7 @@ void jet_table::check_columns() {
                         column->col_num < columns_ever_ && numbers.insert(column->col_num).second;
         if (column->is_fixed == 0) {
             is_sound = is_sound && column->var_col_num < table_->num_var_cols &&
-                       texts.insert(column->var_col_num).second;
+                       places.insert(column->var_col_num).second;
         }
         // The value of a Boolean takes no bytes but stands in the marks.
         const bool takes_bytes = column->is_fixed != 0 && column->col_type != MDB_BOOL;
@@ -115,9 +116,10 @@ void jet_table::check_columns() {
             is_sound = is_sound && taken.insert(column->fixed_offset + i).second;
         }
         if (!is_sound) {
-            refuse(u"its columns cannot be read"_s);
+            return false;
         }
     }
+    return true;
 }
 
 void jet_table::refuse(const QString& what) const {
@@ -195,15 +197,16 @@ const MdbColumn& jet_table::column_of(const MdbField& field) const {
 }
 
 QJsonArray jet_table::row_at(const place& found) {
+    const auto refuse_row = [this] { refuse(u"a row cannot be read"_s); };
     if (found.length < 2) {
-        refuse(u"a row cannot be read"_s);
+        refuse_row();
     }
     std::vector<MdbField> fields(table_->num_cols);
     const int there = mdb_crack_row(table_.get(), found.start, found.length, fields.data());
     const row_marks marks({&file_.handle()->pg_buf[found.start], found.length},
                           IS_JET3(file_.handle()));
     if (there < 0 || !marks.are_sound(columns_ever_)) {
-        refuse(u"a row cannot be read"_s);
+        refuse_row();
     }
     for (MdbField& field : fields) {
         const bool has_value = marks.has_value(column_of(field).col_num);
@@ -212,7 +215,9 @@ QJsonArray jet_table::row_at(const place& found) {
         }
         field.is_null = has_value ? 0 : 1;
     }
-    check_places(found, fields);
+    if (!places_are_sound(found, fields)) {
+        refuse_row();
+    }
     QJsonArray row;
     for (const MdbField& field : fields) {
         row.append(value(column_of(field), field));
@@ -220,8 +225,8 @@ QJsonArray jet_table::row_at(const place& found) {
     return row;
 }
 
-/// Refuses a row in which values lie outside of it, or texts among the values of fixed size.
-void jet_table::check_places(const place& found, const std::vector<MdbField>& fields) const {
+/// No value lies outside of the row, and no text among the values of fixed size.
+bool jet_table::places_are_sound(const place& found, const std::vector<MdbField>& fields) const {
     const int end = found.start + static_cast<int>(found.length);
     int end_of_fixed = found.start;
     int start_of_texts = end;
@@ -231,7 +236,7 @@ void jet_table::check_places(const place& found, const std::vector<MdbField>& fi
             continue;
         }
         if (field.siz < 0 || field.start < found.start || field.start + field.siz > end) {
-            refuse(u"a row cannot be read"_s);
+            return false;
         }
         if (column.is_fixed != 0) {
             end_of_fixed = std::max(end_of_fixed, field.start + field.siz);
@@ -239,9 +244,7 @@ void jet_table::check_places(const place& found, const std::vector<MdbField>& fi
             start_of_texts = std::min(start_of_texts, field.start);
         }
     }
-    if (end_of_fixed > start_of_texts) {
-        refuse(u"a row cannot be read"_s);
-    }
+    return end_of_fixed <= start_of_texts;
 }
 
 QJsonValue jet_table::value(const MdbColumn& column, const MdbField& field) {

@@ -36,12 +36,13 @@ private:
         bool has_moved_away = false;
     };
 
-    void check_columns();
+    [[nodiscard]] bool columns_are_sound();
     void for_each_place(const std::function<void(int row, const place&)>& take);
     [[nodiscard]] QSet<quint32> moved_rows();
     [[nodiscard]] const MdbColumn& column_of(const MdbField& field) const;
     [[nodiscard]] QJsonArray row_at(const place& found);
-    void check_places(const place& found, const std::vector<MdbField>& fields) const;
+    [[nodiscard]] bool places_are_sound(const place& found,
+                                        const std::vector<MdbField>& fields) const;
     [[nodiscard]] QJsonValue value(const MdbColumn& column, const MdbField& field);
     [[nodiscard]] std::span<MdbColumn* const> column_list() const;
     [[noreturn]] void refuse(const QString& what) const;

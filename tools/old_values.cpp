@@ -28,9 +28,10 @@ std::optional<wall_time> read_free_moment(const QString& written) {
     constexpr int half_a_day = 43200;
     static const QRegularExpression half_day(u"(上午|下午|AM|PM)"_s,
                                              QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression between(u"[年月.]"_s);
     QString text = written.normalized(QString::NormalizationForm_KC); // wide digits and colons
     const QString half = half_day.match(text).captured().toUpper();
-    text.remove(half_day).replace(QRegularExpression(u"[年月.]"_s), u"-"_s).replace(u'日', u' ');
+    text.remove(half_day).replace(between, u"-"_s).replace(u'日', u' ');
     std::optional<wall_time> moment = read_wall_time(text.simplified());
     const int hour = moment ? moment->time.hour() : 0;
     if (moment && (half == u"下午" || half == u"PM" ? hour < 12 : !half.isEmpty() && hour == 12)) {

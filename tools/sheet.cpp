@@ -84,7 +84,8 @@ QString without_hints(QString text) {
 }
 
 unsigned char separator_of(const QString& text) {
-    const QString first_line = text.trimmed().section(QRegularExpression(u"[\\r\\n]"_s), 0, 0);
+    static const QRegularExpression line_end(u"[\\r\\n]"_s);
+    const QString first_line = text.trimmed().section(line_end, 0, 0);
     const auto rarer = [&first_line](QChar a, QChar b) {
         return first_line.count(a) < first_line.count(b);
     };

@@ -73,7 +73,7 @@ qint64 table_filler::number_of(const QJsonArray& row) const {
     for (const column& wanted : columns_) {
         const QJsonValue key = wanted.is_key ? old_value(row, wanted) : QJsonValue();
         if (key.isDouble()) {
-            return static_cast<qint64>(key.toDouble());
+            return key.toInteger(read_); // what is no whole number is named by its place
         }
     }
     return read_;
