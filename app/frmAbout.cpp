@@ -46,36 +46,43 @@ frmAbout::frmAbout(const Registry& registry, QWidget* parent)
     : QDialog(parent), registry_(registry) {
     setWindowTitle(u"关于本系统"_s);
     auto* layout = new QGridLayout(this);
+    layout->setColumnStretch(1, 1);
     auto* picIcon = new QLabel;
     picIcon->setObjectName(u"picIcon"_s);
     picIcon->setPixmap(
         QIcon(u":/smscrm.svg"_s).pixmap({icon_size, icon_size}, devicePixelRatioF()));
     layout->addWidget(picIcon, 0, 0, 2, 1, Qt::AlignTop);
-    QLabel* title = add_label(*layout, 0, u"lblTitle"_s, application_title());
+    add_texts(*layout);
+    add_buttons(*layout);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 70);
+}
+
+void frmAbout::add_texts(QGridLayout& layout) {
+    QLabel* title = add_label(layout, 0, u"lblTitle"_s, application_title());
     QFont font = title->font();
     font.setBold(true);
     font.setPointSizeF(font.pointSizeF() * 1.3);
     title->setFont(font);
-    add_label(*layout, 1, u"lblVersion"_s, u"版本：1.0.1 belta2"_s);
-    add_label(*layout, 2, u"lblDescription"_s, {});
-    add_label(*layout, 3, u"Label1"_s, {});
-    add_label(*layout, 4, u"Label2"_s, {});
-    add_line(*layout, 5);
-    add_label(*layout, 6, u"lblDisclaimer"_s,
+    add_label(layout, 1, u"lblVersion"_s, u"版本：1.0.1 belta2"_s);
+    add_label(layout, 2, u"lblDescription"_s, {});
+    add_label(layout, 3, u"Label1"_s, {});
+    add_label(layout, 4, u"Label2"_s, {});
+    add_line(layout, 5);
+    add_label(layout, 6, u"lblDisclaimer"_s,
               u"警告：客户资料属于隐私，请妥善保管口令和数据库文件。"_s);
-    add_line(*layout, 7);
+    add_line(layout, 7);
+}
 
+void frmAbout::add_buttons(QGridLayout& layout) {
     auto* cmdOK = new QPushButton(u"确认"_s);
     cmdOK->setObjectName(u"cmdOK"_s);
     cmdOK->setDefault(true);
     auto* cmdSysInfo = new QPushButton(u"&系统信息..."_s);
     cmdSysInfo->setObjectName(u"cmdSysInfo"_s);
-    layout->addWidget(cmdOK, 8, 2);
-    layout->addWidget(cmdSysInfo, 9, 2);
-    layout->setColumnStretch(1, 1);
+    layout.addWidget(cmdOK, 8, 2);
+    layout.addWidget(cmdSysInfo, 9, 2);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmdSysInfo, &QPushButton::clicked, this, guarded([this] { StartSysInfo(); }));
-    setMinimumWidth(fontMetrics().averageCharWidth() * 70);
 }
 
 void frmAbout::StartSysInfo() {

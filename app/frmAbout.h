@@ -7,6 +7,8 @@
 
 #include <QDialog>
 
+class QGridLayout;
+
 /// Title and version, and a button that starts the system's information program.
 class frmAbout : public QDialog {
     Q_OBJECT
@@ -22,5 +24,8 @@ public:
                      QString& result) const;
 
 private:
+    void add_texts(QGridLayout& layout);
+    void add_buttons(QGridLayout& layout);
+
     const Registry& registry_;
 };

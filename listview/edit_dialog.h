@@ -57,7 +57,7 @@ protected:
                                     std::function<QString()> load,
                                     std::function<void(const QString&)> save);
 
-    /// Puts a small button "…" behind a box that `pick` fills. The keyboard is in the box then.
+    /// Puts a small button "…" behind a box that `pick` fills. Afterwards the box has the focus.
     void add_picker_button(const QString& name, QWidget& box, const QString& purpose,
                            const std::function<void()>& pick);
     /// Ends the form with its buttons; called last by the constructor.

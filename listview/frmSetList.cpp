@@ -43,19 +43,14 @@ frmSetList::frmSetList(spListHeaders& headers, QWidget* parent)
     setWindowTitle(u"列表设置"_s);
     MSHFlexGrid1->setObjectName(u"MSHFlexGrid1"_s);
     MSHFlexGrid1->setAccessibleName(windowTitle());
-    auto* cmdUP = new QPushButton(u"向上移动"_s, this);
-    auto* cmdDown = new QPushButton(u"向下移动"_s, this);
-    cmdUP->setObjectName(u"cmdUP"_s);
-    cmdDown->setObjectName(u"cmdDown"_s);
-
     auto* layout = new QVBoxLayout(this);
     auto* body = new QHBoxLayout;
     layout->addLayout(body);
     body->addWidget(MSHFlexGrid1);
     auto* movers = new QVBoxLayout;
     body->addLayout(movers);
-    movers->addWidget(cmdUP);
-    movers->addWidget(cmdDown);
+    add_mover(*movers, u"cmdUP"_s, u"向上移动"_s, -1);
+    add_mover(*movers, u"cmdDown"_s, u"向下移动"_s, 1);
     movers->addStretch();
     const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
     buttons.ok->setObjectName(u"cmdOK"_s);
@@ -63,10 +58,16 @@ frmSetList::frmSetList(spListHeaders& headers, QWidget* parent)
 
     fill();
     connect(MSHFlexGrid1, &DataGrid::toggled, this, guarded([this] { toggle(); }));
-    connect(cmdUP, &QPushButton::clicked, this, guarded([this] { move(-1); }));
-    connect(cmdDown, &QPushButton::clicked, this, guarded([this] { move(1); }));
     connect(buttons.ok, &QPushButton::clicked, this, guarded([this] { confirm(); }));
     resize(fontMetrics().averageCharWidth() * 70, fontMetrics().height() * 22);
+}
+
+void frmSetList::add_mover(QBoxLayout& movers, const QString& name, const QString& caption,
+                           int step) {
+    auto* mover = new QPushButton(caption, this);
+    mover->setObjectName(name);
+    movers.addWidget(mover);
+    connect(mover, &QPushButton::clicked, this, guarded([this, step] { move(step); }));
 }
 
 frmSetList::~frmSetList() {

@@ -8,7 +8,7 @@
 #include <QDialog>
 
 class DataGrid;
-class QPushButton;
+class QBoxLayout;
 class spListHeaders;
 
 /// The column layout editor: which columns of a view are shown, and in which order. Changes the
@@ -24,6 +24,7 @@ public:
     Q_DISABLE_COPY_MOVE(frmSetList)
 
 private:
+    void add_mover(QBoxLayout& movers, const QString& name, const QString& caption, int step);
     void fill();
     void toggle();
     void move(int step);

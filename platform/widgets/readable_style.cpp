@@ -4,10 +4,14 @@
 #include "platform/widgets/readable_style.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QIconEngine>
 #include <QPainter>
+#include <QPalette>
 #include <QStyleOption>
 #include <qdrawutil.h>
+
+#include <utility>
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -51,7 +51,7 @@ private slots:
         QVERIFY(QFile::copy(QStringLiteral(SMSCRM_LAUNCHER), system_.filePath(u"bin/smscrm"_s)));
     }
 
-    void each_user_runs_the_newest_client_in_a_folder_of_the_own() {
+    void each_user_runs_the_newest_client_in_a_folder_of_their_own() {
         const QString folder = home_.filePath(u"data of mine/smscrm"_s);
         const QByteArray place = QFile::encodeName(folder + u"/smscrm an argument"_s);
         install("first");
