@@ -2,7 +2,7 @@
 # Builds the fuzzers and lets each run for some minutes under both sanitizers:
 #   scripts/fuzz.sh [MINUTES] [TARGET...]
 # Prints runs, coverage and findings; an input that breaks something is left in build/fuzz/findings
-# and belongs, once mended, into fuzz/corpus/TARGET. Ends with 1 if there is one.
+# and belongs, once the fault is mended, into fuzz/corpus/TARGET. Ends with 1 if there is one.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/packages.sh

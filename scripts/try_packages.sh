@@ -15,20 +15,20 @@ display=:97
 Xvfb $display -screen 0 1000x700x24 -ac -noreset >/dev/null 2>&1 &
 server=$!
 clean_up() {
-    kill "$server"
+    kill "$server" 2>/dev/null || true
     umount "$place"/*/proc "$place"/*/tmp/.X11-unix 2>/dev/null || true
     rm -rf --one-file-system "$place"
 }
 trap clean_up EXIT
 export DISPLAY=$display
+timeout 20 sh -c 'until xdotool getdisplaygeometry >/dev/null 2>&1; do sleep 0.2; done'
 openbox 2>/dev/null &
 export DEBIAN_FRONTEND=noninteractive
 
 # clean_root NAME: makes one with a user, where the display can be reached.
 clean_root() {
     if [ ! -d "$place/first" ]; then
-        debootstrap --variant=minbase --include=ca-certificates bookworm "$place/first" \
-            http://deb.debian.org/debian >/dev/null
+        debootstrap --variant=minbase bookworm "$place/first" >/dev/null
     fi
     cp -a "$place/first" "$place/$1"
     mount -t proc proc "$place/$1/proc"
@@ -48,7 +48,7 @@ start() {
     import -window root "$packages/$1.png"
     xdotool key Escape
     wait "$client"
-    find "$place/$1/home/clerk" -name sms.old.mdb -printf '%M %s bytes %p\n'
+    find "$place/$1/home/clerk" -name sms.old.mdb -printf '%M %s bytes %p\n' | grep .
 }
 
 clean_root deb

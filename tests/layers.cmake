@@ -1,5 +1,6 @@
 # Checks that no folder includes a header of a floor above it or beside it, nor a widget where there
-# are none, nor one of the operating system's outside platform/ and gateway/. Run with: cmake -DROOT=<source folder> -P tests/layers.cmake
+# are none, nor one of the operating system's outside platform/ and gateway/. Run with:
+# cmake -DROOT=<source folder> -P tests/layers.cmake
 cmake_minimum_required(VERSION 3.25)
 
 set(platform_may platform)
