@@ -4,6 +4,7 @@
 #include "listview/edit_dialog.h"
 
 #include "listview/dialog_buttons.h"
+#include "listview/picker_button.h"
 #include "platform/conversion.h"
 #include "platform/data_error.h"
 #include "platform/guarded.h"
@@ -174,11 +175,7 @@ QCheckBox* edit_dialog::add_check(const QString& name, const QString& caption, q
 
 void edit_dialog::add_picker_button(const QString& name, QWidget& box, const QString& purpose,
                                     const std::function<void()>& pick) {
-    auto* button = new QPushButton(u"…"_s, this);
-    button->setObjectName(name);
-    button->setToolTip(purpose);
-    button->setAccessibleName(purpose);
-    button->setFixedWidth(button->fontMetrics().averageCharWidth() * 6);
+    auto* button = make_picker_button(name, purpose);
     row_of(box).addWidget(button, 0, Qt::AlignTop);
     connect(button, &QPushButton::clicked, this, guarded([pick, &box] {
                 pick();

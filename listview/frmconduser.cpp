@@ -6,6 +6,7 @@
 #include "data/fmtdatetime.h"
 #include "listview/dialog_buttons.h"
 #include "listview/labelled_box.h"
+#include "listview/picker_button.h"
 #include "listview/vc_in.h"
 #include "platform/conversion.h"
 #include "platform/guarded.h"
@@ -24,10 +25,7 @@ frmconduser::frmconduser(operation_condition shown, vc_in& operators, QWidget* p
     auto* form = new QFormLayout;
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     layout->addLayout(form);
-    auto* cmdref = new QPushButton(u"…"_s);
-    cmdref->setObjectName(u"cmdref"_s);
-    cmdref->setToolTip(u"选择操作员"_s);
-    cmdref->setAccessibleName(cmdref->toolTip());
+    auto* cmdref = make_picker_button(u"cmdref"_s, u"选择操作员"_s);
     txtuserid =
         add_labelled_box(*form, u"lblFieldLabel"_s, u"操作员号："_s, u"txtuserid"_s, {}, cmdref);
     txtsdate = add_labelled_box(*form, u"lblFieldLabel"_s, u"开始日期："_s, u"txtsdate"_s);
@@ -52,6 +50,7 @@ void frmconduser::pick_operator(vc_in& operators) {
     if (const auto picked = operators.Ref()) {
         txtuserid->setText(picked->picked(u"userid"_s));
     }
+    txtuserid->setFocus();
 }
 
 void frmconduser::filltext() {
