@@ -21,7 +21,8 @@ void progress_box::show(qsizetype done, qsizetype total) {
     box_.show();
     if (!box_.windowHandle()->isExposed()) { // it comes up when the screen has made room
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
-                                        QEventLoop::ExcludeSocketNotifiers);
+                                        QEventLoop::ExcludeSocketNotifiers |
+                                        QEventLoop::X11ExcludeTimers); // heeded not only there
     }
     box_.repaint();
 }

@@ -5,8 +5,8 @@
 
 #include <QProgressDialog>
 
-/// Shows how far a long run of its caller has come, and lets nothing else in: no key, click or data
-/// is handled before the caller returns. Unseen until the first step is told.
+/// Shows how far a long run of its caller has come, and lets nothing else in: no key, click, data
+/// or timer is handled before the caller returns. Unseen until the first step is told.
 class progress_box {
 public:
     explicit progress_box(const QString& text);

@@ -3,7 +3,11 @@
 
 #include "directory/FrmParameter.h"
 #include "listview/frmref.h"
+#include "platform/widgets/progress_box.h"
 #include "tests/screens/screen_fixture.h"
+
+#include <QSignalSpy>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -194,6 +198,16 @@ private slots:
         person::expect_box(u"不能保存 "_s, u"输入错误，不能保存短信发送信息，请检查！"_s);
         answer<frmGsendsms>({{u"txtSms"_s, u"it's"_s}}, {}, u"cmdcancel"_s);
         person::click(program_.list(u"mnuTIMEC"_s), u"Add"_s);
+    }
+
+    void nothing_else_happens_while_a_long_run_shows_how_far_it_is() {
+        QTimer other;
+        const QSignalSpy fired(&other, &QTimer::timeout);
+        other.start(0);
+        progress_box box(u"…"_s);
+        box.show(1, 2);
+        QCOMPARE(fired.count(), 0);
+        QTRY_VERIFY(fired.count() > 0); // afterwards it does
     }
 
     void what_was_sent_or_received_is_only_deleted() {
