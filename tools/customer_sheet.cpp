@@ -23,9 +23,19 @@ QString plain(const QString& text) {
 
 /// A mobile number without what a spreadsheet adds to a number.
 QString written_plainly(const QString& mobile) {
-    static const QRegularExpression formula(uR"re(^="(.*)"$)re"_s);
     static const QRegularExpression fraction(u"(?<=[0-9]{5})[.,]0{1,2}$"_s);
-    return plain(mobile).replace(formula, uR"(\1)"_s).remove(fraction);
+    return plain(mobile).remove(fraction);
+}
+
+/// A value without what spreadsheets mark a text with: an apostrophe before it, or ="…" around it.
+QString unmarked(const QString& value) {
+    if (value.startsWith(u'\'')) {
+        return value.sliced(1);
+    }
+    constexpr qsizetype marks = 3;
+    const bool is_formula =
+        value.size() >= marks && value.startsWith(u"=\"") && value.endsWith(u'"');
+    return is_formula ? value.sliced(2, value.size() - marks) : value;
 }
 
 /// Further headings that are understood, in lower case and without blanks.
@@ -46,7 +56,8 @@ const QHash<QString, QStringList>& other_headings() {
 
 /// The column that a heading names, a remark in brackets aside; empty when none.
 QString column_of(QString heading) {
-    heading = plain(heading).toLower().remove(QRegularExpression(uR"([\s:*_]|\(.*\))"_s));
+    static const QRegularExpression ornament(uR"([\s:*_]|\(.*\))"_s);
+    heading = plain(heading).toLower().remove(ornament);
     for (const auto& [column, written] : customer_columns()) {
         if (heading == column || heading == written ||
             other_headings().value(column).contains(heading)) {
@@ -102,7 +113,8 @@ void customer_reader::remark(const sheet_line& line, const QString& told) {
 
 QString customer_reader::objection(const QString& mobile) {
     static const QRegularExpression rounded(uR"(^[0-9]([.,][0-9]+)?[eE][+]?[0-9]+$)"_s);
-    if (!mobile.contains(QRegularExpression(u"[0-9]"_s))) {
+    static const QRegularExpression digit(u"[0-9]"_s);
+    if (!mobile.contains(digit)) {
         return mobile.isEmpty() ? u"no mobile number"_s
                                 : u"no mobile number but %1"_s.arg(shown(mobile));
     }
@@ -121,12 +133,13 @@ void customer_reader::look_over(const sheet_line& line, customer_line& customer)
         !dialled.match(mobile_key(mobile)).hasMatch()) {
         remark(line, u"more than digits in the mobile number %1"_s.arg(shown(mobile)));
     }
+    static const QRegularExpression line_break(u"[\\r\\n]"_s);
     for (auto value = customer.values.begin(); value != customer.values.end(); ++value) {
         if (value->contains(u'\'')) {
             remark(line,
                    u"the client cannot save a text with an apostrophe: %1"_s.arg(shown(*value)));
         }
-        if (value.key() != u"memo" && value->contains(QRegularExpression(u"[\\r\\n]"_s))) {
+        if (value.key() != u"memo" && value->contains(line_break)) {
             remark(line, u"line breaks become blanks: %1"_s.arg(shown(*value)));
             *value = value->simplified();
         }
@@ -136,15 +149,12 @@ void customer_reader::look_over(const sheet_line& line, customer_line& customer)
 void customer_reader::take(const sheet_line& line) {
     customer_line customer{line.number, {}};
     for (qsizetype i = 0; i < line.fields.size(); ++i) {
-        QString value = line.fields.at(i);
+        QString value = unmarked(line.fields.at(i));
         if (i >= columns_.size() && !value.isEmpty()) {
             remark(line, u"left out: it has more fields than there are headings"_s);
             return;
         }
         const QString column = columns_.value(i);
-        if (value.startsWith(u'\'')) {
-            value.remove(0, 1); // what spreadsheets mark a text with
-        }
         value = column == u"mobile" ? written_plainly(value) : value;
         if (!value.isEmpty() && unnamed_.remove(i)) {
             remark(line, u"column %1 is not used: it has no heading"_s.arg(i + 1));

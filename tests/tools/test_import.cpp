@@ -168,7 +168,8 @@ private slots:
         row("mobile\n5\n5", "--duplicates add", u"line 3: added again: cust"_s, u"3||5||||"_s);
         row("mobile\n13800138000\n+86 138-0013-8000", "", u"line 3: "_s, u"2||13800138000||||"_s);
         row("mobile\n6", "--dry-run --class 新", u"changed: 1 customer(s)"_s, u"1|旧|13||||"_s);
-        row("sep=;\nＮａｍｅ;手　机（必填）\n甲;=\"１２\"", "", one, u"2|甲|12||||"_s);
+        row("sep=;\nＮａｍｅ;手　机（必填）;电话\n甲;=\"１２\";\"=\"\"010\"\"\"", "", one,
+            u"2|甲|12|||010|"_s);
         row("mobile,\n5.0,\n无,\n6,x", "", u"line 3: left out: no mobile number but"_s,
             u"3||6||||"_s);
         row("mobile,\n5,x", "", u"line 2: column 2 is not used: it has no"_s, u"2||5||||"_s);
