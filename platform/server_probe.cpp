@@ -6,6 +6,7 @@
 #include "platform/connection_string.h"
 #include "platform/data_error.h"
 
+#include <QNetworkProxy>
 #include <QTcpSocket>
 
 using namespace Qt::StringLiterals;
@@ -27,6 +28,7 @@ void probe_server(const QString& connection_string) {
     if (host.isEmpty() || !is_port || port == 0) {
         throw DataError(DataError::Kind::cannot_open, server);
     }
+    socket.setProxy(QNetworkProxy::NoProxy); // one is for web pages
     socket.connectToHost(host, port);
     if (!socket.waitForConnected(longest_wait_ms)) {
         throw DataError(DataError::Kind::cannot_open, socket.errorString());

@@ -3,6 +3,8 @@
 
 #include "platform/winsock.h"
 
+#include <QNetworkProxy>
+
 namespace {
 
 /// The most bytes of one arrival, far above any message. Left to the system, a flood would gather
@@ -14,6 +16,7 @@ constexpr qint64 most_at_once = 1'048'576;
 
 Winsock::Winsock(QObject* parent) : QObject(parent) {
     socket_.setReadBufferSize(most_at_once);
+    socket_.setProxy(QNetworkProxy::NoProxy); // one is for web pages
     connect(&socket_, &QTcpSocket::stateChanged, this, &Winsock::follow);
     connect(&socket_, &QTcpSocket::errorOccurred, this, &Winsock::fail);
     connect(&socket_, &QTcpSocket::readyRead, this, &Winsock::DataArrival);

@@ -3,9 +3,12 @@
 
 #include "platform/conversion.h"
 #include "platform/display_format.h"
+#include "platform/server_probe.h"
 #include "platform/winsock.h"
 #include "tests/support/error_of.h"
 
+#include <QNetworkProxy>
+#include <QTcpServer>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -49,6 +52,19 @@ private slots:
             socket.RemotePort = port;
             QVERIFY_THROWS_EXCEPTION(Winsock::Error, socket.Connect());
         }
+    }
+
+    void a_proxy_is_passed_by() {
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, u"127.0.0.1"_s, 1});
+        Winsock socket;
+        socket.RemoteHost = u"0.0.0.0"_s; // this machine, yet no name that every proxy leaves alone
+        socket.RemotePort = server.serverPort();
+        socket.Connect();
+        QTRY_COMPARE(socket.State(), Winsock::StateEnum::connected);
+        probe_server(u"Data Source=0.0.0.0,%1"_s.arg(server.serverPort()));
+        QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
     }
 };
 
