@@ -21,11 +21,19 @@ public:
     Q_DISABLE_COPY_MOVE(exclusive_lease)
 
     /// Takes the lease unless another has it, and never waits; true when it is held now. False too
-    /// where the guarded file is missing or the empty one cannot be made or written.
+    /// while the guarded file is away or read-only, and where the empty one cannot be made or
+    /// written; that is said on standard error, once until the lease is had.
     [[nodiscard]] bool try_take();
     void release();
 
+    /// The empty file beside `guarded_file`, when it is there but somebody who may write the
+    /// guarded one cannot write it: its path. Else nothing.
+    [[nodiscard]] static QString unwritable_file(const QString& guarded_file);
+
 private:
+    void take();
+
     QString guarded_file_;
     std::unique_ptr<SqliteDatabase> lock_; ///< has its write lock while the lease is held
+    bool has_complained_ = false;
 };

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "platform/exclusive_lease.h"
 #include "platform/sqlite_database.h"
 #include "tools/command.h"
 #include "tools/console.h"
@@ -24,6 +25,7 @@ every table how many rows it holds, the highest number given out so far and how 
   - a value is no 16-bit number, which no screen can read
   - a row names another that does not exist; 0 stands for none in messages and group sends
   - the gateway parameters are not exactly one row
+  - FILE-lease, which a client locks in order to send, cannot be written
 
 Exit status: 0 nothing found; 1 findings; 2 the file cannot be used (missing, no database of this
 system, the old format, locked).
@@ -32,7 +34,10 @@ system, the old format, locked).
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().first();
     SqliteDatabase database(file, SqliteDatabase::Mode::read_only);
-    const inspection found = inspect(database);
+    inspection found = inspect(database);
+    if (const QString lease = exclusive_lease::unwritable_file(file); !lease.isEmpty()) {
+        found.findings.append(u"no client can send: %1 cannot be written"_s.arg(lease));
+    }
 
     const QString line = u"%1%2%3%4\n"_s;
     print(line.arg(u"table.key"_s, -20).arg(u"rows"_s, 8).arg(u"highest"_s, 10).arg(u"used"_s, 8));

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/connection_pool.h"
+#include "platform/exclusive_lease.h"
 #include "platform/recordset.h"
 #include "tests/support/error_of.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -20,6 +22,7 @@ class test_data_access : public QObject {
 
     QTemporaryDir folder_;
     QString connection_ = u"PROVIDER=x;Data Source=%1\\a; b.mdb;"_s.arg(folder_.path());
+    const QFileDevice::Permissions owner_may_ = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
     QString path_ = folder_.filePath(u"a; b.mdb"_s);
 
     static void make_people(const QString& path) {
@@ -138,6 +141,39 @@ private slots:
                  0);
         QVERIFY(QFile::exists(path_ + u"-wal"_s));
     }
+
+    void whoever_may_write_the_file_may_take_its_lease() {
+        const QString lease = path_ + u"-lease"_s;
+        const auto accesses = [](const QString& path) {
+            const QFileInfo file(path);
+            return std::tuple(file.ownerId(), file.groupId(), int(file.permissions()));
+        };
+        QProcess::execute(u"chown"_s, {u"12345:12345"_s, path_}); // done for root alone
+        for (const QFileDevice::Permission others :
+             {QFileDevice::WriteGroup, QFileDevice::ReadOther}) { // made, then mended
+            QFile::setPermissions(path_, owner_may_ | others);
+            QVERIFY(exclusive_lease(path_).try_take());
+            QCOMPARE(accesses(lease), accesses(path_));
+            QVERIFY(exclusive_lease::unwritable_file(path_).isEmpty());
+            QFile::setPermissions(lease,
+                                  QFileDevice::ReadOwner); // as a file read-only once left it
+            QCOMPARE(exclusive_lease::unwritable_file(path_), lease);
+        }
+        QFile::setPermissions(path_, QFileDevice::ReadOwner);
+        QCOMPARE(exclusive_lease(path_).try_take(), QFileInfo(path_).isWritable());
+        QVERIFY(QFile::permissions(lease).testFlag(QFileDevice::WriteOwner) ||
+                !QFileInfo(path_).isWritable());
+    }
+
+    void a_lease_that_cannot_be_taken_is_told_once() {
+        const QString blocked = folder_.filePath(u"c.mdb"_s);
+        QVERIFY(QDir(folder_.path()).mkdir(u"c.mdb-lease"_s) && QFile::copy(path_, blocked));
+        QProcess visitor;
+        visitor.start(QCoreApplication::applicationFilePath(), {u"--lease"_s, blocked});
+        QVERIFY(visitor.waitForFinished());
+        const QString told = u"the lease of %1 cannot be taken: unable to open database file\n"_s;
+        QCOMPARE(visitor.readAllStandardError(), told.arg(blocked).toUtf8());
+    }
 };
 
 int main(int argc, char* argv[]) {
@@ -146,6 +182,10 @@ int main(int argc, char* argv[]) {
     if (arguments.value(1) == u"--visit") { // plays another program that uses the file
         SqliteDatabase(arguments.value(2)).execute(u"select * from people"_s);
         return 0;
+    }
+    if (arguments.value(1) == u"--lease") { // asks for the lease twice
+        exclusive_lease lease(arguments.value(2));
+        return lease.try_take() || lease.try_take() ? 1 : 0;
     }
     test_data_access tests;
     return QTest::qExec(&tests, argc, argv);

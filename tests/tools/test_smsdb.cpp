@@ -39,6 +39,10 @@ private slots:
         finds("drop view vwgroup", u"view vwgroup is missing"_s);
         finds("alter table customer drop memo", u"column customer.memo is missing"_s);
         finds("update sqlite_sequence set seq=26214 where name='users'", u"number 26214 of"_s);
+        QTest::newRow("lease")
+            << u"select 1"_s
+            << u"touch FILE-lease; chmod 400 FILE-lease; smsdb check FILE; s=$?; rm -f FILE-lease; exit $s"_s
+            << 1 << u"finding: no client can send: "_s;
         const QString big =
             u"insert into sendsms (cid,sms,sendisok,stime) values (0,hex(zeroblob(300000)),-1,'2024/1/1')"_s;
         QTest::newRow("clean") << big << u"smsdb check FILE"_s << 0 << u"\nno findings\n"_s;
