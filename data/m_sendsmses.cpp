@@ -5,6 +5,7 @@
 
 #include "platform/data_error.h"
 
+#include <algorithm>
 #include <iterator>
 
 using namespace Qt::StringLiterals;
@@ -53,6 +54,13 @@ void m_sendsmses::Remove(qsizetype index) {
 
 void m_sendsmses::Remove(const QString& key) {
     remove(find(key));
+}
+
+void m_sendsmses::keep_first(qsizetype count) {
+    const auto first = std::next(items_.begin(), qMin(count, Count()));
+    std::for_each(first, items_.end(),
+                  [this](const auto& item) { places_.remove(item.second.smsid); });
+    items_.erase(first, items_.end());
 }
 
 std::map<m_sendsmses::place, m_sendsms>::iterator m_sendsmses::find(qsizetype index) {

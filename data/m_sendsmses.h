@@ -29,6 +29,8 @@ public:
     /// Removes one message; one that is not there is no error.
     void Remove(qsizetype index);
     void Remove(const QString& key);
+    /// Removes all but the first `count` messages.
+    void keep_first(qsizetype count);
 
     [[nodiscard]] static QString key_of(qint16 smsid);
     [[nodiscard]] bool contains(qint16 smsid) const { return places_.contains(smsid); }

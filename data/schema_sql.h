@@ -48,7 +48,8 @@ CREATE TABLE sendsms (
     rtime TEXT COLLATE NOCASE,
     stime TEXT COLLATE NOCASE
 );
-CREATE INDEX sendsms_pending ON sendsms (sendisok, stime);
+-- By number, because that is the order in which pending messages go out.
+CREATE INDEX sendsms_pending ON sendsms (smsid) WHERE sendisok = 0;
 CREATE TABLE recvedsms (
     smsrid INTEGER PRIMARY KEY AUTOINCREMENT,
     mobile TEXT COLLATE NOCASE,

@@ -18,6 +18,7 @@
 #include <QFile>
 #include <QTest>
 
+#include <ctime>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -84,6 +85,35 @@ private slots:
             run(u"insert into %1 default values"_s.arg(table));
             QCOMPARE(rows(u"select rowid from "_s + table), u"8"_s);
         }
+    }
+
+    void pending_messages_queue_by_number() {
+        run(u"insert into sendsms (smsid, stime, sendisok) values (40000, '2020', 0), (3, '2021', 0), (2, '2022', -1), (1, '2023', 0)"_s);
+        m_sendsmses queue;
+        QCOMPARE(error_of([&] { outgoing_.searchsms(queue); }), Kind::conversion);
+        QVERIFY(queue.Count() == 2 && queue.Item(1)->smsid == 1 && queue.Item(2)->smsid == 3);
+        QVERIFY(
+            rows(u"explain query plan select * from vwsendsms where sendisok=0 and stime<'2030'"_s)
+                .contains(u"sendsms_pending"_s));
+    }
+
+    // Compared with what filling it takes, for there is no pace that every machine keeps.
+    void a_long_queue_is_forgotten_as_fast_as_it_was_filled() {
+        m_sendsmses queue;
+        const auto ticks = [](const auto& work) {
+            const std::clock_t begin = std::clock();
+            work();
+            return std::clock() - begin;
+        };
+        const auto filling = ticks([&] {
+            for (int id = 1; id <= 32000; ++id) {
+                queue.Add({}, {}, {}, false, {}, 1, {}, static_cast<qint16>(id));
+            }
+        });
+        QVERIFY(ticks([&] { queue.keep_first(2); }) < 5 * filling);
+        QVERIFY(queue.Count() == 2 && queue.contains(2) && !queue.contains(3));
+        queue.keep_first(3);
+        QVERIFY(queue.Count() == 2 && queue.Item(u"s1"_s));
     }
 
     void views_join_what_belongs_together() {
