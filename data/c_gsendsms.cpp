@@ -12,9 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// In messages.
-constexpr qsizetype long_run = 2000;
-constexpr qsizetype report_interval = 500;
+constexpr qsizetype report_interval = 500; // in messages
 
 } // namespace
 
@@ -38,6 +36,15 @@ std::optional<m_gsendsms> c_gsendsms::getrec(qint16 gsid) const {
                                           .isall = to_int16(rs.Fields(u"isall"_s)),
                                           .sms = {}};
                     });
+}
+
+qsizetype c_gsendsms::addressees(qint16 cid, qint16 isall) const {
+    return read_one(isall != 0 ? u"select count(*) from customer"_s
+                               : u"select count(*) from vwgroup where ccid=%1"_s.arg(literal(cid)),
+                    [](const Recordset& rs) {
+                        return static_cast<qsizetype>(rs.store().value(0, 0).toLongLong());
+                    })
+        .value_or(0);
 }
 
 bool c_gsendsms::addrec(const QString& sms, qint16 cid, bool imsend, qint16 isall,
@@ -89,10 +96,9 @@ void c_gsendsms::expand(Connection& connection, const m_gsendsms& send,
     const QString after =
         u",0,-1,%1,%2,%3)"_s.arg(literal(send.imsend), literal(send.rtime), literal(send.stime));
     const RowStore& rows = addressees.store();
-    const bool reports = report && rows.rows() > long_run;
     for (qsizetype row = 0; row < rows.rows(); ++row) {
-        if (reports && row % report_interval == 0) {
-            report(row, rows.rows());
+        if (report && row % report_interval == 0) {
+            report(row);
         }
         const qint16 customer = to_int16(rows.value(row, 0));
         connection.Execute(before + literal(rows.text(row, 1)) + text + literal(customer) + after);

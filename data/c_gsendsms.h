@@ -14,17 +14,20 @@ class Connection;
 /// stored.
 class c_gsendsms : public record_access {
 public:
-    /// Takes how many messages are written, and how many there will be.
-    using progress_report = std::function<void(qsizetype done, qsizetype total)>;
+    /// Takes how many messages are written. Called while the transaction is open: it must not let
+    /// events in.
+    using progress_report = std::function<void(qsizetype done)>;
 
     void openrs(Recordset& rs) const;
     /// Opens the customers, not group sends; nothing calls it.
     void searchsms(Recordset& rs) const;
     /// Leaves `sms` empty: the text of a stored group send is fixed.
     [[nodiscard]] std::optional<m_gsendsms> getrec(qint16 gsid) const;
+    /// How many customers a group send goes to; 0 when they cannot be counted.
+    [[nodiscard]] qsizetype addressees(qint16 cid, qint16 isall) const;
     /// Stores the group send and one pending message for each customer addressed; all of it is on
     /// disk when the call returns. After an error half-way what was written stays, and the answer
-    /// is false. A long run tells `report` from time to time how far it has come.
+    /// is false. Tells `report` from time to time how far it has come.
     [[nodiscard]] bool addrec(const QString& sms, qint16 cid, bool imsend, qint16 isall,
                               const QDateTime& rtime, const QDateTime& stime,
                               const progress_report& report = {}) const;

@@ -9,9 +9,13 @@
 
 #include <QApplication>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr qsizetype long_run = 2000; // messages; fewer are written before a box could be read
 
 constexpr entity_messages texts{
     .insert_failed = u"输入错误，不能保存短信发送信息，请检查！",
@@ -40,8 +44,14 @@ bool vc_gsendsms::validate(const m_gsendsms& checked) const {
 
 bool vc_gsendsms::insert(const m_gsendsms& added) const {
     const wait_cursor waiting;
-    progress_box box(u"正在写入短信，请稍候……"_s);
+    std::optional<progress_box> box;
+    if (const qsizetype total = records->addressees(added.cid, added.isall); total > long_run) {
+        box.emplace(u"正在写入短信，请稍候……"_s, total);
+    }
     return records->addrec(added.sms, added.cid, added.imsend, added.isall, added.rtime,
-                           added.stime,
-                           [&box](qsizetype done, qsizetype total) { box.show(done, total); });
+                           added.stime, [&box](qsizetype done) {
+                               if (box) {
+                                   box->report(done);
+                               }
+                           });
 }

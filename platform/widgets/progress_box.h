@@ -5,13 +5,15 @@
 
 #include <QProgressDialog>
 
-/// Shows how far a long run of its caller has come, and lets nothing else in: no key, click, data
-/// or timer is handled before the caller returns. Unseen until the first step is told.
+/// Shows how far a long run of its caller has come. It comes up as it is made, and events but the
+/// operator's are handled meanwhile; make it before a transaction begins. From then on it is only
+/// painted: no key, click, data or timer is handled before the caller returns.
 class progress_box {
 public:
-    explicit progress_box(const QString& text);
+    /// `total` is what `report` counts up to.
+    progress_box(const QString& text, qsizetype total);
 
-    void show(qsizetype done, qsizetype total);
+    void report(qsizetype done);
 
 private:
     QProgressDialog box_;

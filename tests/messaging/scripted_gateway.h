@@ -10,6 +10,7 @@
 
 #include <future>
 
+#include <sys/socket.h>
 #include <unistd.h>
 
 /// A gateway of the test's own on this machine: keeps what arrives and says what it is told to.
@@ -37,7 +38,11 @@ public:
     void close() { server_.close(); }
     [[nodiscard]] quint16 port() const { return port_; }
 
-    void say(const QString& frame) { link_->write(QStringEncoder(QStringEncoder::Utf16LE)(frame)); }
+    /// It is on its way when the call returns; no event is needed for it.
+    void say(const QString& frame) {
+        link_->write(QStringEncoder(QStringEncoder::Utf16LE)(frame));
+        link_->flush();
+    }
     /// Says the bytes over and over from a thread of its own, as fast as they are taken, `total` of
     /// them in all.
     [[nodiscard]] std::future<void> flood(const QByteArray& bytes, qint64 total) const {
@@ -54,6 +59,13 @@ public:
         });
     }
     void hang_up() { link_->disconnectFromHost(); }
+    /// Ends the link as a machine does on which the gateway was killed.
+    void reset() {
+        const linger at_once{1, 0};
+        ::setsockopt(static_cast<int>(link_->socketDescriptor()), SOL_SOCKET, SO_LINGER, &at_once,
+                     sizeof at_once);
+        link_->abort();
+    }
 
 private:
     QTcpServer server_;

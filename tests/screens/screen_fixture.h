@@ -13,12 +13,16 @@
 
 #include <QMdiSubWindow>
 
-/// The whole program on a database of its own: operator 1 is logged in, no gateway answers.
+/// The whole program on a database of its own: operator 1 is logged in, no gateway answers unless
+/// the port of one is given.
 class screen_fixture {
     test_database database_;
     client program_;
+    int gateway_port_;
 
 public:
+    explicit screen_fixture(int gateway_port = 1) : gateway_port_(gateway_port) {}
+
     frmMain& window = start();
     QMdiArea& area = *window.findChild<QMdiArea*>();
 
@@ -30,7 +34,7 @@ public:
 
 private:
     frmMain& start() {
-        test_database::execute(QStringLiteral("update parameters set port=1"));
+        test_database::execute(QStringLiteral("update parameters set port=%1").arg(gateway_port_));
         set_up_toolkit();
         curuser = std::make_unique<rsclsuser>();
         curuser->set_userid(1);
