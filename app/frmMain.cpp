@@ -15,12 +15,14 @@
 #include "platform/guarded.h"
 #include "platform/widgets/msgbox.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMenuBar>
 #include <QStatusBar>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -86,9 +88,15 @@ frmMain::frmMain(std::unique_ptr<QMdiArea> windows, const controllers& opened,
     operator_panel_->setTextFormat(Qt::PlainText); // a name with "<" is no markup
     sbStatusBar->addPermanentWidget(operator_panel_);
 
+    msgbox::set_silent(false);
     restore_placement(*this);
     show_operator();
     engine_.initsend();
+}
+
+// Not sooner: what a closing interrupts may still ask for the user.
+frmMain::~frmMain() {
+    releaseuser();
 }
 
 void frmMain::build_system_menu() {
@@ -188,8 +196,19 @@ void frmMain::log_out_or_in() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    save_placement(*this);
-    releaseuser();
+    leave();
     event->accept();
-    QCoreApplication::quit();
+}
+
+void frmMain::leave() {
+    if (std::exchange(leaves_, true)) {
+        return;
+    }
+    save_placement(*this);
+    msgbox::set_silent(true);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        window->hide();
+    }
+    connect(&engine_, &dispatch_engine::finished, this, &QCoreApplication::quit);
+    engine_.finish();
 }

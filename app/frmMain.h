@@ -32,6 +32,8 @@ public:
     /// `windows` is the area into which the controllers put their list windows.
     frmMain(std::unique_ptr<QMdiArea> windows, const controllers& opened,
             const dispatch_engine::collaborators& dispatched);
+    ~frmMain() override;
+    Q_DISABLE_COPY_MOVE(frmMain)
 
     // The engine's operations, as the window offers them.
     void startTimer() { engine_.startTimer(); }
@@ -39,6 +41,11 @@ public:
     void initsend() { engine_.initsend(); }
     void sendend(const bool& ok) { engine_.sendend(ok); }
     void sendsms() { engine_.sendsms(); }
+
+    /// Ends the program: its windows go at once and nothing is shown any more; the process goes
+    /// when the message in flight is answered and marked, or has not been within the reply
+    /// time-out.
+    void leave();
 
     /// Asks for the database server's name; no menu leads here.
     void setserver();
@@ -63,4 +70,5 @@ private:
     dispatch_engine engine_;
     QLabel* operator_panel_;
     QAction* logout_ = nullptr;
+    bool leaves_ = false;
 };

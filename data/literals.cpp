@@ -8,8 +8,12 @@
 
 using namespace Qt::StringLiterals;
 
+bool is_writable(const QString& text) {
+    return !text.contains(u'\'') && !text.contains(QChar::Null);
+}
+
 QString text_literal(const QString& text) {
-    if (text.contains(u'\'') || text.contains(QChar::Null)) {
+    if (!is_writable(text)) {
         throw DataError(DataError::Kind::text_literal, u"the text holds a quote or a NUL"_s);
     }
     return u'\'' + text + u'\'';

@@ -8,8 +8,12 @@
 
 // Values as statements write them. Every value that enters a statement passes here.
 
-/// A text between single quotes, as it stands. A text that holds a single quote or a NUL cannot be
-/// written this way: throws DataError (text_literal).
+/// Whether a text can be written between single quotes as it stands: one that holds a single quote
+/// or a NUL cannot.
+[[nodiscard]] bool is_writable(const QString& text);
+
+/// A text between single quotes, as it stands. Throws DataError (text_literal) when it cannot be
+/// written this way.
 [[nodiscard]] QString text_literal(const QString& text);
 
 /// A number in decimal.

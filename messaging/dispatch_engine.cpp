@@ -4,7 +4,6 @@
 #include "messaging/dispatch_engine.h"
 
 #include "data/c_parameter.h"
-#include "data/c_recvedsms.h"
 #include "data/c_sendsms.h"
 #include "messaging/gateway_frame.h"
 #include "platform/exclusive_lease.h"
@@ -17,11 +16,12 @@ constexpr int first_poll_interval = 60000;
 constexpr int first_reply_timeout = 10000;
 constexpr int started_poll_interval = 2000;
 constexpr int started_reply_timeout = 60000;
+constexpr int finishing_poll_interval = 1000;
 
 } // namespace
 
 dispatch_engine::dispatch_engine(const collaborators& used, QObject* parent)
-    : QObject(parent), used_(used) {
+    : QObject(parent), used_(used), unwritten_(used.outgoing, used.received) {
     Timer1.set_Interval(first_poll_interval);
     Timer2.set_Enabled(false);
     Timer2.set_Interval(first_reply_timeout);
@@ -41,6 +41,11 @@ void dispatch_engine::StopTomer() {
 }
 
 void dispatch_engine::initsend() {
+    unwritten_.retry(); // whoever's turn it is: these messages are not to be sent again
+    if (finishing_) {
+        end_when_done();
+        return;
+    }
     if (!take_turn()) {
         forget_queue();
         return;
@@ -53,6 +58,7 @@ void dispatch_engine::initsend() {
     });
     try_step([this] { connect_when_closed(); });
     try_step([this] { used_.outgoing.searchsms(used_.queue); });
+    hold_back_accepted();
     sendsms();
 }
 
@@ -61,9 +67,9 @@ bool dispatch_engine::take_turn() {
         return true;
     }
     // A link in error is never opened again. What is tried on it reaches nobody; once the message
-    // that was in flight is given up, another client may send.
+    // that was in flight is given up and what was accepted is marked, another client may send.
     if (Winsock1.State() == Winsock::StateEnum::error) {
-        if (sendready_) {
+        if (sendready_ && unwritten_.unmarked().isEmpty()) {
             used_.turn->release();
         }
         return true;
@@ -73,9 +79,13 @@ bool dispatch_engine::take_turn() {
 
 /// Another client sends what waits here; only the message in flight is still to be answered.
 void dispatch_engine::forget_queue() {
-    const qsizetype in_flight = sendready_ ? 0 : 1;
-    while (used_.queue.Count() > in_flight) {
-        used_.queue.Remove(used_.queue.Count());
+    used_.queue.keep_first(sendready_ ? 0 : 1);
+}
+
+/// What the gateway has accepted does not go out again because its mark is still to be written.
+void dispatch_engine::hold_back_accepted() {
+    for (const qint16 smsid : unwritten_.unmarked()) {
+        used_.queue.Remove(m_sendsmses::key_of(smsid));
     }
 }
 
@@ -91,6 +101,10 @@ void dispatch_engine::connect_when_closed() {
 }
 
 void dispatch_engine::sendsms() {
+    if (finishing_) {
+        end_when_done();
+        return;
+    }
     const m_sendsms* first = used_.queue.Item(1);
     if (!sendready_ || first == nullptr || !take_turn()) {
         return;
@@ -108,17 +122,39 @@ void dispatch_engine::sendend(const bool& ok) {
     sendready_ = true;
     Timer2.set_Enabled(false);
     if (const m_sendsms* first = used_.queue.Item(1)) {
-        // A mark that cannot be written leaves the message pending: it is sent again, never lost.
         if (ok) {
-            static_cast<void>(used_.outgoing.sended(first->smsid));
+            unwritten_.mark_sent(first->smsid);
         }
         used_.queue.Remove(1);
     }
     sendsms();
 }
 
+void dispatch_engine::finish() {
+    finishing_ = true;
+    forget_queue();
+    Timer1.set_Interval(finishing_poll_interval);
+    if (Timer2.Interval() <= 0) {
+        Timer2.set_Interval(first_reply_timeout);
+    }
+    end_when_done();
+}
+
+void dispatch_engine::end_when_done() {
+    if (!sendready_ && Winsock1.State() == Winsock::StateEnum::connected) {
+        return;
+    }
+    if (unwritten_.is_empty() || gives_up_) {
+        Timer1.set_Enabled(false);
+        emit finished();
+    } else if (!Timer2.Enabled()) {
+        Timer2.set_Enabled(true); // what cannot be written gets as long as an answer
+    }
+}
+
 void dispatch_engine::Timer2_Timer() {
     sendready_ = true;
+    gives_up_ = finishing_;
     sendend(false);
 }
 
@@ -128,8 +164,7 @@ void dispatch_engine::Winsock1_DataArrival() {
 
 void dispatch_engine::take_frame(const QString& frame) {
     if (frame.startsWith(u'0')) {
-        const gateway_frame::received message = gateway_frame::parse_received(frame);
-        static_cast<void>(used_.received.addrec(message.mobile, message.text, message.time, false));
+        unwritten_.store(gateway_frame::parse_received(frame));
     } else if (frame.startsWith(u'1')) {
         sendend(true);
     } else if (frame.startsWith(u'2')) {

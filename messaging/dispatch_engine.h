@@ -4,6 +4,7 @@
 #pragma once
 
 #include "data/m_parameter.h"
+#include "messaging/unwritten_answers.h"
 #include "platform/interval_timer.h"
 #include "platform/winsock.h"
 
@@ -46,6 +47,10 @@ public:
     void sendend(const bool& ok);
     /// Sends the first message of the queue unless one is in flight.
     void sendsms();
+    /// Ends its work: sends nothing more, and emits finished() as soon as the message in flight is
+    /// answered and all answers are written, or have not been within the reply time-out; at once
+    /// when there is nothing to wait for.
+    void finish();
 
     /// No message is in flight.
     [[nodiscard]] bool sendready() const noexcept { return sendready_; }
@@ -55,15 +60,23 @@ public:
     IntervalTimer Timer2; ///< the reply time-out
     Winsock Winsock1;
 
+signals:
+    void finished();
+
 private:
     [[nodiscard]] bool take_turn();
     void forget_queue();
+    void hold_back_accepted();
     void connect_when_closed();
+    void end_when_done();
     void Timer2_Timer();
     void Winsock1_DataArrival();
     void take_frame(const QString& frame);
 
     collaborators used_;
+    unwritten_answers unwritten_;
     std::optional<m_parameter> parameters_; ///< read once and kept
     bool sendready_ = true;
+    bool finishing_ = false;
+    bool gives_up_ = false; ///< finishing has taken as long as it may
 };

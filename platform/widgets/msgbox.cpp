@@ -11,8 +11,13 @@
 
 namespace {
 
+bool is_silent = false;
+
 int show(QMessageBox::Icon icon, const QString& text, const QString& title,
          QMessageBox::StandardButtons buttons) {
+    if (is_silent) {
+        return QMessageBox::NoButton;
+    }
     QMessageBox box(icon, title, text, buttons, owner_window());
     box.setTextFormat(Qt::PlainText);
     for (QAbstractButton* button : box.buttons()) {
@@ -42,4 +47,8 @@ void msgbox::plain(const QString& text, const QString& title) {
 bool msgbox::yes_no(const QString& text, const QString& title) {
     return show(QMessageBox::NoIcon, text, title, QMessageBox::Yes | QMessageBox::No) ==
            QMessageBox::Yes;
+}
+
+void msgbox::set_silent(bool silent) {
+    is_silent = silent;
 }

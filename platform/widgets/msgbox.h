@@ -18,4 +18,7 @@ void plain(const QString& text, const QString& title);
 /// No symbol, Yes and No; true for Yes.
 [[nodiscard]] bool yes_no(const QString& text, const QString& title);
 
+/// Shows no box from now on, as befits a program without a window; a question is answered with No.
+void set_silent(bool silent);
+
 } // namespace msgbox

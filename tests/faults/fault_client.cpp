@@ -10,6 +10,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QSettings>
+#include <QSocketNotifier>
 #include <QTimer>
 
 #include <cstdio>
@@ -20,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 // The client as it is delivered, but for the length of its timers, in a process that may be killed.
 // Its arguments are FOLDER and what to do: "start", "group", or TIMEOUT_MS [TEXT] to send messages
-// and, at a word on standard input, save a phrase.
+// and, at a word on standard input, save the text as a phrase or, without one, close.
 
 namespace {
 
@@ -102,7 +103,10 @@ int main(int argc, char* argv[]) {
     window.engine().Timer2.set_Interval(job.toInt());
     QTimer watcher;
     watch(window.engine(), watcher);
+    QSocketNotifier input(fileno(stdin), QSocketNotifier::Read);
+    QObject::connect(&input, &QSocketNotifier::activated, &window, &QWidget::close);
     if (arguments.size() > 3) {
+        input.setEnabled(false);
         expect_phrase(arguments.at(3));
         person::choose(window, u"mnuCreTech"_s);
         QTimer::singleShot(0, window.findChild<frmdatagrid*>(),

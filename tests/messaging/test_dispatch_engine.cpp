@@ -34,6 +34,7 @@ struct stage : test_database {
     std::optional<exclusive_lease> colleague; ///< another client's
     QDateTime clock = system_clock();
     dispatch_engine engine{{parameters, outgoing, received, queue, &turn}};
+    QSignalSpy endings{&engine, &dispatch_engine::finished};
     QSignalSpy arrivals{&engine.Winsock1, &Winsock::DataArrival};
     QStringList expected_frames;
     int expected_connections = 0;
@@ -46,7 +47,8 @@ struct stage : test_database {
         {u"open"_s, [this] { gateway.listen(); }},
         {u"refused"_s, [this] { QTRY_COMPARE(engine.Winsock1.State(), state::error); }},
         {u"linked"_s, [this] { expect_link(); }},
-        {u"hangup"_s, [this] { hang_up(); }},
+        {u"hangup"_s, [this] { expect_end(&scripted_gateway::hang_up); }},
+        {u"reset"_s, [this] { expect_end(&scripted_gateway::reset); }},
         {u"rubbish"_s, [this] { gateway.say(QString(2 << 20, u'\xd8d8')); }},
         {u"noport"_s, [] { execute(u"delete from parameters"_s); }},
         {u"port"_s, [this] { set_port(gateway.port()); }},
@@ -61,8 +63,13 @@ struct stage : test_database {
          [this] {
              QCOMPARE(engine.Winsock1.State(),
                       expected_connections == 0 ? state::closed : state::connected);
-             QVERIFY(outcome().endsWith(u", 0 left, idle"_s));
+             QVERIFY(queue.Count() == 0 && engine.sendready());
          }},
+        {u"away"_s, [this] { QVERIFY(QFile::rename(path(), path() + u'2')); }},
+        {u"back"_s, [this] { QVERIFY(QFile::rename(path() + u'2', path())); }},
+        {u"finish"_s, [this] { engine.finish(); }},
+        {u"going"_s, [this] { QCOMPARE(endings.count(), 0); }},
+        {u"gone"_s, [this] { QCOMPARE(endings.count(), 1); }},
         {u"day+"_s, [this] { clock = clock.addDays(1); }},
         {u"second+"_s, [this] { clock = clock.addSecs(1); }},
         {u"hour-"_s, [this] { clock = clock.addSecs(-3600); }},
@@ -71,11 +78,18 @@ struct stage : test_database {
              execute(u"insert into sendsms (mobile, sms, stime) values ('13912345678', 'later', "
                      "'%1')"_s.arg(fmtdatetime(clock.addDays(1))));
          }},
-        {u"big"_s, [] { execute(u"insert into sendsms (smsid, stime) values (40000, '2025')"_s); }},
-        {u"lock1"_s, [] {
+        {u"big"_s, [] { execute(u"insert into sendsms (smsid, stime) values (40000, '2023')"_s); }},
+        {u"lock1"_s,
+         [] {
              execute(u"create trigger lock before update on sendsms when old.smsid = 1 "
                      "begin select raise(abort, ''); end"_s);
-         }}};
+         }},
+        {u"lockin"_s,
+         [] {
+             execute(u"create trigger lock before insert on recvedsms "
+                     "begin select raise(abort, ''); end"_s);
+         }},
+        {u"free"_s, [] { execute(u"drop trigger lock"_s); }}};
 
     stage() {
         outgoing.now = [this] { return clock; };
@@ -101,8 +115,8 @@ struct stage : test_database {
         QTRY_COMPARE(gateway.connections, expected_connections);
     }
 
-    void hang_up() {
-        gateway.hang_up();
+    void expect_end(void (scripted_gateway::*end)()) {
+        (gateway.*end)();
         QTRY_COMPARE(engine.Winsock1.State(), state::closing);
     }
 
@@ -174,6 +188,8 @@ private slots:
             u"0 0, 0 left, idle"_s);
         row("link closed", u"poll linked a b poll >a otherport rubbish hangup poll linked <1 >b"_s,
             u"-1 0, 1 left, in flight"_s);
+        row("link reset", u"poll linked a b poll >a reset poll linked timeout >b <1"_s,
+            u"0 -1, 0 left, idle"_s);
         row("no parameters", u"noport a poll port poll linked timeout poll >a"_s,
             u"0, 1 left, in flight"_s);
         row("not stored",
@@ -181,8 +197,34 @@ private slots:
             u"-1, 0 left, idle"_s);
         row("rows changed", u"poll linked a b c poll >a edit2 delete3 <1 >b <1 >c <1"_s,
             u"-1 -1, 0 left, idle"_s);
-        row("mark fails", u"poll linked a b poll >a lock1 <1 >b poll <1 >a"_s,
-            u"0 -1, 1 left, in flight"_s);
+        const QString received = u"<013861391234567812240131235959"_s;
+        const QString stored = u"13912345678|%1|2024/01/31 23:59:59|0"_s;
+        row("mark fails", u"poll linked a b poll >a lock1 <1 >b poll <1 poll nothing free poll"_s,
+            u"-1 -1, 0 left, idle"_s);
+        row("mark fails, lease lost",
+            u"poll linked a poll >a lock1 <1 leaseless taken poll free poll nothing"_s,
+            u"-1, 0 left, idle"_s);
+        row("mark fails, link stuck",
+            u"poll linked a poll >a lock1 <1 hangup shut poll refused poll mine free poll taken"_s,
+            u"-1, 0 left, idle"_s);
+        row("storing fails",
+            u"poll linked lockin %11 poll %1it's %12 free %13 poll"_s.replace(u"%1"_s, received),
+            u", 0 left, idle"_s,
+            QStringList{stored.arg(1), stored.arg(2), stored.arg(3)}.join(u' '));
+        row("database away", u"poll linked a b poll >a away <1 poll nothing back poll >b <1"_s,
+            u"-1 -1, 0 left, idle"_s);
+        row("finished", u"poll linked a b poll >a finish poll going <1 gone"_s,
+            u"-1 0, 0 left, idle"_s);
+        row("finished unanswered", u"poll linked a poll >a finish going timeout gone"_s,
+            u"0, 0 left, idle"_s);
+        row("finished, mark fails",
+            u"poll linked a poll >a lock1 finish <1 poll going free poll gone"_s,
+            u"-1, 0 left, idle"_s);
+        row("finished, mark fails for good",
+            u"poll linked a poll >a lock1 <1 finish going timeout gone"_s, u"0, 0 left, idle"_s);
+        row("finished idle", u"poll linked finish gone"_s, u", 0 left, idle"_s);
+        row("finished without a link", u"shut a b poll refused finish gone"_s,
+            u"0 0, 1 left, in flight"_s);
         row("search fails", u"poll linked a b big poll >a <1 >b <1"_s, u"-1 -1 0, 0 left, idle"_s);
         row("a colleague's turn",
             u"taken a poll nothing died poll linked timeout poll >a mine <1"_s,
@@ -206,7 +248,7 @@ private slots:
         s.play_all(script);
         QTEST(s.outcome(), "outcome");
         QTEST(s.rows(u"select mobile, sms, rtime, readed from recvedsms"_s).join(u' '), "stored");
-        QCOMPARE(s.engine.Timer2.Enabled(), !s.engine.sendready());
+        QVERIFY(!s.endings.isEmpty() || s.engine.Timer2.Enabled() != s.engine.sendready());
         QCOMPARE(s.gateway.frames, s.expected_frames);
     }
 
@@ -221,6 +263,8 @@ private slots:
         s.play(u">a"_s);
         s.engine.StopTomer();
         QVERIFY(s.engine.Timer1.Interval() == 0 && s.engine.Timer2.Interval() == 0);
+        s.engine.finish(); // waits for a verdict no longer than usual
+        QCOMPARE(s.engine.Timer2.Interval(), 10000);
         s.engine.Timer2.set_Interval(1);
         QTRY_COMPARE(s.outcome(), u"0, 0 left, idle"_s);
     }

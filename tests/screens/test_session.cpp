@@ -5,7 +5,9 @@
 #include "app/frmAbout.h"
 #include "app/frmLogin.h"
 #include "app/frmserver.h"
+#include "directory/frmSmsm.h"
 #include "platform/settings_store.h"
+#include "platform/widgets/msgbox.h"
 #include "tests/screens/screen_fixture.h"
 
 #include <QAction>
@@ -164,6 +166,18 @@ private slots:
         QCOMPARE(left_of_next(u"600"_s), qRound(600 * window.logicalDpiX() / 1440.0));
         person::expect_box(u"系统提示"_s, u"窗口位置的设置不是数字，已恢复为默认值。"_s);
         QCOMPARE(left_of_next(u"左"_s), qRound(1000 * window.logicalDpiX() / 1440.0));
+    }
+
+    void goes_at_once_and_says_nothing_more() {
+        person::during_modal<frmSmsm>([this](frmSmsm& dialog) {
+            program_->window.leave(); // as at the end of the user's session
+            QVERIFY(!dialog.isVisible() && !program_->window.isVisible());
+            QVERIFY(setting(u"MainLeft"_s) != u"none");
+            QVERIFY(!msgbox::yes_no(u"?"_s, {})); // nor does it ask for an answer
+        });
+        const frmdatagrid& list = program_->list(u"mnuCreTech"_s);
+        person::click(list, u"Add"_s);
+        QVERIFY(curuser);
     }
 
     void tiles_windows() {
