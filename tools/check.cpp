@@ -36,7 +36,8 @@ int run(const QCommandLineParser& arguments) {
     SqliteDatabase database(file, SqliteDatabase::Mode::read_only);
     inspection found = inspect(database);
     if (const QString lease = exclusive_lease::unwritable_file(file); !lease.isEmpty()) {
-        found.findings.append(u"no client can send: %1 cannot be written"_s.arg(lease));
+        found.findings.append(
+            u"%1 cannot be written: a client that may not mend it sends nothing"_s.arg(lease));
     }
 
     const QString line = u"%1%2%3%4\n"_s;
