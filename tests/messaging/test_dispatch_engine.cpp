@@ -269,6 +269,19 @@ private slots:
         QTRY_COMPARE(s.outcome(), u"0, 0 left, idle"_s);
     }
 
+    void keeps_no_more_than_memory_is_to_be_spent_on() {
+        const stage s;
+        c_recvedsms received; // of no database
+        unwritten_answers answers(s.outgoing, received);
+        for (int i = 0; i < 20; ++i) {
+            answers.store({u"1"_s, s.clock, QString(1 << 20, u'x')});
+        }
+        received.connection = strconn;
+        answers.retry();
+        QCOMPARE(s.value(u"select count(*) from recvedsms"_s), 16);
+        QVERIFY(answers.is_empty());
+    }
+
     void floods_data() {
         QTest::addColumn<QByteArray>("bytes");
         const QByteArray head = gateway_frame::to_bytes(u"013861391234567812240131235959"_s);
