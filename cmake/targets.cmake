@@ -37,6 +37,7 @@ endfunction()
 # What every test's surroundings hold.
 set(smscrm_test_environment
     LC_ALL=C.UTF-8
+    LANGUAGE=en
     LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/sanitizer-leaks.txt:print_suppressions=0
     QT_LOGGING_RULES=*.debug=false
 )

@@ -3,6 +3,8 @@
 
 #include "gateway/console.h"
 
+#include "platform/terminal.h"
+
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -10,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace gateway {
 
 void complain(const QString& what) {
-    const QByteArray line = (u"smsgateway: "_s + what + u'\n').toLocal8Bit();
+    const QByteArray line = terminal_text(u"smsgateway: "_s + what + u'\n');
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
 

@@ -8,6 +8,8 @@
 #include "gateway/server.h"
 #include "gateway/simulator_backend.h"
 #include "gateway/termination_watch.h"
+#include "platform/program_language.h"
+#include "platform/terminal.h"
 
 #include <QCoreApplication>
 
@@ -33,7 +35,7 @@ void fill_standard_streams() {
 }
 
 void print(const QString& text) {
-    std::fputs(text.toLocal8Bit().constData(), stdout);
+    std::fputs(terminal_text(text).constData(), stdout);
     std::fflush(stdout);
 }
 
@@ -105,6 +107,7 @@ int main(int argc, char* argv[]) {
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(u"smsgateway"_s);
     QCoreApplication::setApplicationVersion(QString::fromLatin1(SMSGATEWAY_VERSION));
+    speak_users_language(u"smsgateway"_s);
     const gateway::termination_watch termination;
     QObject::connect(&termination, &gateway::termination_watch::requested, &app,
                      &QCoreApplication::quit);

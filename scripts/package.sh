@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/packages.sh
 
-install_packages "${build_packages[@]}" "${packaging_packages[@]}"
+install_packages "${build_packages[@]}" "${translation_packages[@]}" "${packaging_packages[@]}"
 cmake --preset release -Wno-dev
 cmake --build --preset release
 appstreamcli validate --no-net build/release/packaging/*.metainfo.xml

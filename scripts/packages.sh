@@ -7,6 +7,8 @@ build_packages=(
 )
 display_packages=(xvfb xauth openbox)
 lint_packages=(clang-format clang-tidy)
+# What the programs say in Chinese, and the encodings of other terminals for the tests.
+translation_packages=(qt6-l10n-tools locales)
 packaging_packages=(appstream desktop-file-utils dpkg-dev file pandoc)
 
 # packages_missing NAME...: prints those that are not installed.

@@ -11,7 +11,7 @@ set(directory_may ${listview_may} directory)
 set(messaging_may ${listview_may} messaging)
 set(operators_may ${listview_may} operators)
 set(app_may ${listview_may} directory messaging operators app)
-set(gateway_may gateway)
+set(gateway_may platform gateway)
 set(tools_may platform data tools)
 
 set(system_headers "^#include <((sys|arpa|net|netinet)/|(csignal|dirent|dlfcn|fcntl|poll|pthread|signal|spawn|termios|unistd|windows)[.h>])")

@@ -4,6 +4,7 @@
 #include "tools/console.h"
 
 #include "platform/data_error.h"
+#include "platform/terminal.h"
 #include "tools/command.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@
 using namespace Qt::StringLiterals;
 
 void print(const QString& text) {
-    std::fputs(text.toLocal8Bit().constData(), stdout);
+    std::fputs(terminal_text(text).constData(), stdout);
 }
 
 void flush_output() {
@@ -22,7 +23,7 @@ void flush_output() {
 }
 
 void complain(const QString& what) {
-    std::fputs((u"smsdb: "_s + what + u'\n').toLocal8Bit().constData(), stderr);
+    std::fputs(terminal_text(u"smsdb: "_s + what + u'\n').constData(), stderr);
 }
 
 QString describe(const DataError& error, const QString& file) {

@@ -3,8 +3,10 @@
 
 #include "platform/data_error.h"
 #include "platform/process_limits.h"
+#include "platform/program_language.h"
 #include "tools/command.h"
 #include "tools/console.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -45,12 +47,13 @@ int run(const command& wanted, const QStringList& arguments) {
         return exit_status::clean;
     }
     const QStringList operands = parser.positionalArguments();
-    const QString advice = u" (see smsdb %1 --help)"_s.arg(wanted.name);
     if (!understood) {
-        throw failure(parser.errorText() + advice);
+        throw failure(texts::tr("%1 (see smsdb %2 --help)").arg(parser.errorText(), wanted.name));
     }
     if (operands.size() != wanted.operands || operands.contains(QString())) {
-        throw failure(u"%1 takes %2 file name(s)"_s.arg(wanted.name).arg(wanted.operands) + advice);
+        throw failure(texts::tr("%1 takes %2 file name(s) (see smsdb %1 --help)")
+                          .arg(wanted.name)
+                          .arg(wanted.operands));
     }
     try {
         return wanted.run(parser);
@@ -73,8 +76,9 @@ int run(QStringList arguments) {
     const auto* wanted = std::find_if(commands().begin(), commands().end(),
                                       [&name](const command& c) { return c.name == name; });
     if (wanted == commands().end()) {
-        throw failure((name.isEmpty() ? u"no command"_s : u"unknown command: %1"_s.arg(name)) +
-                      u" (see smsdb --help)"_s);
+        throw failure(name.isEmpty()
+                          ? texts::tr("no command (see smsdb --help)")
+                          : texts::tr("unknown command: %1 (see smsdb --help)").arg(name));
     }
     return run(*wanted, arguments);
 }
@@ -84,6 +88,7 @@ int run(QStringList arguments) {
 int main(int argc, char* argv[]) {
     survive_file_size_limit();
     const QCoreApplication application(argc, argv);
+    speak_users_language(u"smsdb"_s);
     try {
         const int status = run(QCoreApplication::arguments());
         flush_output();
