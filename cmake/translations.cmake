@@ -23,7 +23,12 @@ function(smscrm_translated program)
             VERBATIM
         )
         set_source_files_properties(${compiled} PROPERTIES QT_RESOURCE_ALIAS ${program}_zh_CN.qm)
-        qt_add_resources(${program} ${program}_texts PREFIX /translations FILES ${compiled})
+        qt_add_resources(
+            ${program} ${program}_texts
+            PREFIX /translations
+            FILES ${compiled}
+            OPTIONS ${resource_options}
+        )
         target_link_libraries(${program} PRIVATE smscrm_qt_texts)
     endif()
     if(LUPDATE)
