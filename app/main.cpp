@@ -12,6 +12,11 @@ using namespace Qt::StringLiterals;
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     set_up_toolkit();
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == u"--cannot-start") { // the system package's launcher tells why
+        msgbox::critical(arguments.value(2), application_title());
+        return 0;
+    }
     QApplication::setQuitOnLastWindowClosed(
         false); // the login dialog closes before the main window opens
     try {

@@ -27,18 +27,20 @@ private:
     void install(const QByteArray& version) {
         QFile client(system_.filePath(u"lib/smscrm/smscrm"_s));
         QVERIFY(client.open(QIODevice::WriteOnly));
-        client.write("#!/bin/sh\necho " + version + " \"$0\" \"$1\"\n");
+        client.write("#!/bin/sh\necho " + version + " \"$0\" \"$@\"\n");
         client.setPermissions(for_all);
     }
 
-    QByteArray start() {
-        QProcess launcher;
+    /// What a line of a shell writes that finds the launcher.
+    QByteArray start(const QString& line = u"smscrm 'an argument'"_s) {
+        QProcess shell;
         QProcessEnvironment surroundings = QProcessEnvironment::systemEnvironment();
         surroundings.insert(u"XDG_DATA_HOME"_s, home_.filePath(u"data of mine"_s));
-        launcher.setProcessEnvironment(surroundings);
-        launcher.start(system_.filePath(u"bin/smscrm"_s), {u"an argument"_s});
-        return launcher.waitForFinished() ? launcher.readAllStandardOutput().trimmed()
-                                          : QByteArray();
+        surroundings.insert(u"DISPLAY"_s, u":none"_s);
+        surroundings.insert(u"PATH"_s, system_.filePath(u"bin:"_s) + qEnvironmentVariable("PATH"));
+        shell.setProcessEnvironment(surroundings);
+        shell.start(u"sh"_s, {u"-c"_s, line});
+        return shell.waitForFinished() ? shell.readAllStandardOutput().trimmed() : QByteArray();
     }
 
     QTemporaryDir system_;
@@ -70,6 +72,19 @@ private slots:
         QVERIFY(QFile::remove(system_.filePath(u"lib/smscrm/smscrm"_s)));
         QVERIFY(old.startsWith("old "));
         QCOMPARE(start(), old);
+    }
+
+    void a_box_tells_why_there_is_no_start() {
+        install("here");
+        const QString client = system_.filePath(u"lib/smscrm/smscrm"_s);
+        const QByteArray box = "here " + QFile::encodeName(client) + " --cannot-start ";
+        QVERIFY(start(u"XDG_DATA_HOME=/dev/null smscrm"_s).startsWith(box + "不能建立工作文件夹"));
+        const QString elsewhere = u"XDG_DATA_HOME=$XDG_DATA_HOME/new smscrm"_s;
+        QVERIFY(start(u"ulimit -f 0; "_s + elsewhere).startsWith(box + "不能把程序复制到"));
+        QVERIFY(QFile::link(u"/bin/false"_s, system_.filePath(u"bin/xdg-open"_s)));
+        QVERIFY(start(u"smscrm --manual"_s).startsWith(box + "打不开操作手册"));
+        QVERIFY(QFile::setPermissions(client, QFile::ReadOwner | QFile::ReadOther));
+        QCOMPARE(start(elsewhere), QByteArray()); // what may not run can show no box either
     }
 };
 
