@@ -12,4 +12,5 @@ desktop-file-validate packaging/*.desktop
 rm -rf build/packages
 cpack --config build/release/CPackConfig.cmake -B build/packages
 rm -rf build/packages/_CPack_Packages
+lintian --fail-on error,warning build/packages/*.deb
 ls -l build/packages

@@ -9,7 +9,7 @@ display_packages=(xvfb xauth openbox)
 lint_packages=(clang-format clang-tidy)
 # What the programs say in Chinese, and the encodings of other terminals for the tests.
 translation_packages=(qt6-l10n-tools locales)
-packaging_packages=(appstream desktop-file-utils dpkg-dev file pandoc)
+packaging_packages=(appstream desktop-file-utils dpkg-dev file lintian pandoc)
 
 # packages_missing NAME...: prints those that are not installed.
 packages_missing() {

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Tries both packages of build/packages, each on a clean Debian root of its own, as a user who has just
 # logged in: installs it, starts the client on a virtual display, and leaves a picture of what appears
-# in build/packages. Run as root: try_packages.sh
+# in build/packages. The archive is tried on the next Debian too, whose libraries are newer. Run as root:
+# try_packages.sh
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/packages.sh
@@ -25,12 +26,14 @@ timeout 20 sh -c 'until xdotool getdisplaygeometry >/dev/null 2>&1; do sleep 0.2
 openbox 2>/dev/null &
 export DEBIAN_FRONTEND=noninteractive
 
-# clean_root NAME: makes one with a user, where the display can be reached.
+mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Label: Debian' | head -n 1)
+
+# clean_root NAME SUITE: makes one with a user, where the display can be reached.
 clean_root() {
-    if [ ! -d "$place/first" ]; then
-        debootstrap --variant=minbase bookworm "$place/first" >/dev/null
+    if [ ! -d "$place/bare-$2" ]; then
+        debootstrap --variant=minbase "$2" "$place/bare-$2" "$mirror" >/dev/null
     fi
-    cp -a "$place/first" "$place/$1"
+    cp -a "$place/bare-$2" "$place/$1"
     mount -t proc proc "$place/$1/proc"
     mkdir -p "$place/$1/tmp/.X11-unix"
     mount --bind /tmp/.X11-unix "$place/$1/tmp/.X11-unix"
@@ -38,33 +41,44 @@ clean_root() {
     chroot "$place/$1" apt-get update -qq
 }
 
-# start NAME COMMAND: runs the client as the user, takes a picture of the login dialog, ends it with Esc,
-# and shows the database that it has made.
-start() {
-    chroot "$place/$1" su - clerk -c "DISPLAY=$display $2" &
+# show NAME PICTURE KEY COMMAND: runs the client as the user, takes a picture of what it shows, and ends it
+# with the key.
+show() {
+    chroot "$place/$1" su - clerk -c "DISPLAY=$display $4" &
     local client=$!
     timeout 60 xdotool search --sync --onlyvisible --class smscrm windowactivate --sync
     sleep 1 # it is painted after it is there
-    import -window root "$packages/$1.png"
-    xdotool key Escape
+    import -window root "$packages/$2.png"
+    xdotool key "$3"
     wait "$client"
+}
+
+# start NAME COMMAND: starts the client and shows the database that it has made.
+start() {
+    show "$1" "$1" Escape "$2"
     find "$place/$1/home/clerk" -name sms.old.mdb -printf '%M %s bytes %p\n' | grep .
 }
 
-clean_root deb
+clean_root deb bookworm
 cp "$packages"/*.deb "$place/deb/tmp/"
 chroot "$place/deb" sh -c 'apt-get install -y -qq --no-install-recommends /tmp/*.deb' >/dev/null
 start deb smscrm
-
-clean_root archive
-# What the archive's own README tells to install.
-libraries=$(sed -n 's/^ *sudo apt install //p' packaging/README.txt)
-chroot "$place/archive" sh -c "apt-get install -y -qq --no-install-recommends $libraries" >/dev/null
-tar -xzf "$packages"/*.tar.gz -C "$place/archive/home/clerk"
-chroot "$place/archive" chown -R clerk: /home/clerk
-start archive './smscrm-*/bin/smscrm'
-
-for program in /usr/bin/smsdb /usr/bin/smsgateway; do
+for program in smsdb smsgateway; do
     chroot "$place/deb" "$program" --version
 done
-echo "Both packages start; see build/packages/deb.png and archive.png."
+show deb deb-refused Return '! XDG_DATA_HOME=/proc smscrm' # a box tells why it cannot start
+
+# What the archive's own README tells to install.
+libraries=$(sed -n 's/^ *sudo apt install //p' packaging/README.txt)
+for suite in bookworm trixie; do
+    clean_root "archive-$suite" "$suite"
+    chroot "$place/archive-$suite" \
+        sh -c "apt-get install -y -qq --no-install-recommends $libraries" >/dev/null
+    tar -xzf "$packages"/*.tar.gz -C "$place/archive-$suite/home/clerk"
+    chroot "$place/archive-$suite" chown -R clerk: /home/clerk
+    start "archive-$suite" './smscrm-*/bin/smscrm'
+    for program in smsdb smsgateway; do
+        chroot "$place/archive-$suite" sh -c "/home/clerk/smscrm-*/bin/$program --version"
+    done
+done
+echo "Both packages start; the pictures are in build/packages."
