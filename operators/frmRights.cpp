@@ -12,6 +12,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -100,7 +101,11 @@ void frmRights::GetOneRights(qint32 userid) {
     if (functions_.RecordCount() == 0) {
         return;
     }
-    const qsizetype current = functions_.position();
+    rights_are_known_ = false;
+    const auto leave_the_cursor = qScopeGuard([this, current = functions_.position()] {
+        functions_.set_position(current);
+        dataFuns->viewport()->update();
+    });
     ResetFuns();
     Recordset rights;
     rights.set_ActiveConnection(strconn);
@@ -112,8 +117,7 @@ void frmRights::GetOneRights(qint32 userid) {
             functions_.set_Fields(u"Selected"_s, -1);
         }
     }
-    functions_.set_position(current);
-    dataFuns->viewport()->update();
+    rights_are_known_ = true;
 }
 
 void frmRights::show_rights_of_current_user() {
@@ -123,9 +127,17 @@ void frmRights::show_rights_of_current_user() {
 }
 
 void frmRights::toggle() {
-    if (!on_row(functions_) || !on_row(users_)) {
+    if (dataUsers->row() < 0 || dataFuns->row() < 0) {
         return;
     }
+    if (!rights_are_known_) { // an empty mark may stand for a right that is held
+        show_rights_of_current_user();
+        return;
+    }
+    // What is changed is what one sees marked.
+    users_.set_position(dataUsers->row());
+    functions_.set_position(dataFuns->row());
+    dataFuns->show_position();
     const qint32 userid = users_.Fields(u"userid"_s).toInt();
     const qint32 funid = functions_.Fields(u"funid"_s).toInt();
     const bool selected = functions_.Fields(u"Selected"_s).toInt() == 0;

@@ -22,7 +22,8 @@ public:
 
     /// Clears every mark.
     void ResetFuns();
-    /// Marks what the operator holds. Throws DataError.
+    /// Marks what the operator holds. Throws DataError; then nothing is marked, and no mark can be
+    /// changed.
     void GetOneRights(qint32 userid);
     /// These write one right of an operator. Throw DataError.
     static void ADDRight(qint32 userid, qint32 funid);
@@ -38,4 +39,5 @@ private:
     Recordset functions_; ///< in memory: funid, funName, Selected
     DataGrid* dataUsers;
     DataGrid* dataFuns;
+    bool rights_are_known_ = false; ///< the marks are those of the current operator
 };

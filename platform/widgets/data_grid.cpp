@@ -112,7 +112,9 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
     const bool toggles = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                          event->key() == Qt::Key_Space;
     if (toggles && row() >= 0 && isSignalConnected(QMetaMethod::fromSignal(&DataGrid::toggled))) {
-        emit toggled();
+        if (!event->isAutoRepeat()) { // a key held down is pressed once
+            emit toggled();
+        }
         event->accept();
         return;
     }
