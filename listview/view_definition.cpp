@@ -53,6 +53,11 @@ constexpr auto number_fields = std::to_array<number_field>({
     {u"FormatType", &spListHeader::FormatType},
 });
 
+/// Whoever may write the definitions may not read passwords by them.
+bool is_secret(const QString& key) {
+    return key.compare("password"_L1, Qt::CaseInsensitive) == 0;
+}
+
 bool is_empty(const Recordset& rs) {
     return rs.Bof() && rs.Eof();
 }
@@ -110,7 +115,9 @@ void load_view(spListHeaders& headers, const QString& connection_string, const Q
     headers.ViewNo = view.Fields(u"ViewNo"_s).toString();
     headers.ReadOnly = view.Fields(u"readonly"_s).toInt() != 0;
     for (; !items.Eof(); items.MoveNext()) {
-        headers.Add(read_column(items));
+        if (const spListHeader column = read_column(items); !is_secret(column.key)) {
+            headers.Add(column);
+        }
     }
 }
 
@@ -156,7 +163,7 @@ void apply_view(const spListHeaders& headers, DataGrid& grid) {
         columns.append({.caption = column.caption,
                         .data_field = column.key,
                         .width_twips = column.Width,
-                        .visible = column.Visible != 0,
+                        .visible = column.Visible != 0 && !is_secret(column.key),
                         .alignment = static_cast<grid_column::Alignment>(column.TAlignment),
                         .heading_alignment = static_cast<grid_column::Alignment>(column.HAlignment),
                         .format_type = static_cast<grid_column::Format>(column.FormatType),

@@ -7,7 +7,8 @@
 
 class DataGrid;
 
-/// Loads the definition of a view number; a number without one loads no columns. Throws DataError.
+/// Loads the definition of a view number; a number without one loads no columns, and a column of
+/// passwords is left out of every one. Throws DataError.
 void load_view(spListHeaders& headers, const QString& connection_string, const QString& view_no);
 
 /// Writes the definition back, or writes a new one when the view number has none yet: whole or not
@@ -16,5 +17,5 @@ void load_view(spListHeaders& headers, const QString& connection_string, const Q
 void save_view(const spListHeaders& headers, const QString& connection_string,
                const QString& view_no);
 
-/// Rebuilds the grid's columns from the definition.
+/// Rebuilds the grid's columns from the definition; passwords stay hidden in any case.
 void apply_view(const spListHeaders& headers, DataGrid& grid);
