@@ -59,8 +59,8 @@ void frmconduser::filltext() {
 }
 
 void frmconduser::fillcond() {
-    condition.start = to_datetime(txtsdate->text());
-    condition.end = to_datetime(txtedate->text());
+    condition.start = typed_datetime(txtsdate->text());
+    condition.end = typed_datetime(txtedate->text());
     if (txtuserid->text().isEmpty()) {
         condition.userid = 0;
     } else {

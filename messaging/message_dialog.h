@@ -38,7 +38,7 @@ protected:
             QStringLiteral("txtStime"), QStringLiteral("发送时间："),
             [this] { return show_datetime(record.stime); },
             [this](const QString& text) {
-                record.stime = to_datetime(text);
+                record.stime = typed_datetime(text);
                 record.imsend = record.stime == record.rtime;
             });
     }

@@ -138,6 +138,10 @@ QDateTime to_datetime(const QString& text) {
     return moment;
 }
 
+QDateTime typed_datetime(const QString& text) {
+    return to_datetime(text.normalized(QString::NormalizationForm_KC));
+}
+
 QDateTime to_datetime(const QVariant& value) {
     return to_datetime(value.toString());
 }

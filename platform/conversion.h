@@ -36,6 +36,10 @@ struct wall_time {
 [[nodiscard]] QDateTime to_datetime(const QString& text);
 [[nodiscard]] QDateTime to_datetime(const QVariant& value);
 
+/// The same as it is typed into a box: a Chinese keyboard's wide digits, colons, strokes and blanks
+/// are taken too.
+[[nodiscard]] QDateTime typed_datetime(const QString& text);
+
 /// The same without an exception: an invalid QDateTime when the text is none.
 [[nodiscard]] QDateTime read_datetime(QStringView text);
 /// The same without asking what moment that is here; nothing when the text is none.

@@ -6,6 +6,7 @@
 #include "listview/frmSort.h"
 #include "listview/frmconduser.h"
 #include "listview/frmref.h"
+#include "listview/view_definition.h"
 #include "operators/vc_users.h"
 #include "tests/screens/screen_fixture.h"
 
@@ -132,7 +133,7 @@ private slots:
         vc_users operators(program_.area);
         const auto shown = [&](const QString& user, const QString& button) {
             person::during_modal<frmconduser>([=](frmconduser& dialog) {
-                person::type(dialog, {{u"txtsdate"_s, u"2024-01-31 08:00:00"_s},
+                person::type(dialog, {{u"txtsdate"_s, u"2024-01-31 08：00：00"_s},
                                       {u"txtedate"_s, u"2024-01-31 10:00:00"_s},
                                       {u"txtuserid"_s, user}});
                 if (user == u"0") { // then one is picked
@@ -154,6 +155,18 @@ private slots:
         QCOMPARE(shown(u"7"_s, u"cmdOK"_s), u"b"_s);
         QCOMPARE(shown(u"0"_s, u"cmdOK"_s), u"a c"_s);
         QCOMPARE(shown({}, u"cmdCancel"_s), QString()); // nothing happened today
+    }
+
+    void shows_no_password() {
+        test_database::execute(
+            u"insert into viewitems (ViewNo, keyword, caption, Visible, pos) values ('VUsers', 'PassWord', '口令', -1, 9)"_s);
+        const frmdatagrid& list = program_.list(u"mnuSysUSer"_s);
+        QCOMPARE(grid_of(list).model()->columnCount(), 2); // nor is it searched or sorted by
+        DataGrid grid;
+        spListHeaders headers;
+        headers.Add({.key = u"PASSWORD"_s});
+        apply_view(headers, grid);
+        QVERIFY(grid.isColumnHidden(0));
     }
 
     void chooses_columns_and_their_order() {
