@@ -4,7 +4,6 @@
 #include "listview/entity_loops.h"
 
 #include "listview/edit_dialog.h"
-#include "platform/widgets/msgbox.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +15,8 @@ bool add_loop(edit_dialog& dialog, const entity_messages& messages, const record
         }
         if (!insert()) {
             msgbox::information(messages.insert_failed.toString(), u"不能保存 "_s);
-        } else if (!msgbox::yes_no(messages.insert_succeeded.toString(), u"保存成功"_s)) {
+        } else if (!msgbox::yes_no(messages.insert_succeeded.toString(), u"保存成功"_s,
+                                   messages.goes_on)) {
             return true;
         }
     }

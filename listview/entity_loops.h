@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/widgets/msgbox.h"
+
 #include <QStringView>
 
 #include <functional>
@@ -13,7 +15,8 @@ class edit_dialog;
 /// entities.
 struct entity_messages {
     QStringView insert_failed = {};
-    QStringView insert_succeeded = {}; ///< asks whether to go on
+    QStringView insert_succeeded = {};            ///< asks whether to go on
+    msgbox::answer goes_on = msgbox::answer::yes; ///< what Enter answers to that
     QStringView record_missing = {};
     QStringView update_failed = {};
     QStringView update_succeeded = {};

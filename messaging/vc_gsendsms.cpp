@@ -19,6 +19,7 @@ constexpr qsizetype long_run = 2000; // messages; fewer are written before a box
 
 constexpr entity_messages texts{
     .insert_failed = u"输入错误，不能保存短信发送信息，请检查！",
+    .goes_on = msgbox::answer::no, // some Returns in a row must not send it twice
     .insert_succeeded = u"成功创建一个短信发送信息，继续创建吗？ ",
     .delete_succeeded = u"成功删除短信发送",
     .delete_failed = u"不能删除短信发送",

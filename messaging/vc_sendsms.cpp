@@ -12,6 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr entity_messages texts{
+    .goes_on = msgbox::answer::no, // some Returns in a row must not send it twice
     .insert_failed = u"输入错误，不能保存短信信息，请检查！",
     .insert_succeeded = u"成功创建一个短信信息，继续创建吗？ ",
     .delete_succeeded = u"成功删除短信",

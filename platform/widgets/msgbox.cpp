@@ -14,12 +14,13 @@ namespace {
 bool is_silent = false;
 
 int show(QMessageBox::Icon icon, const QString& text, const QString& title,
-         QMessageBox::StandardButtons buttons) {
+         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton usual) {
     if (is_silent) {
         return QMessageBox::NoButton;
     }
     QMessageBox box(icon, title, text, buttons, owner_window());
     box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(usual);
     for (QAbstractButton* button : box.buttons()) {
         button->setIcon({}); // the buttons of the dialogs have none either
     }
@@ -33,20 +34,20 @@ int show(QMessageBox::Icon icon, const QString& text, const QString& title,
 } // namespace
 
 void msgbox::information(const QString& text, const QString& title) {
-    show(QMessageBox::Information, text, title, QMessageBox::Ok);
+    show(QMessageBox::Information, text, title, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 void msgbox::critical(const QString& text, const QString& title) {
-    show(QMessageBox::Critical, text, title, QMessageBox::Ok);
+    show(QMessageBox::Critical, text, title, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 void msgbox::plain(const QString& text, const QString& title) {
-    show(QMessageBox::NoIcon, text, title, QMessageBox::Ok);
+    show(QMessageBox::NoIcon, text, title, QMessageBox::Ok, QMessageBox::Ok);
 }
 
-bool msgbox::yes_no(const QString& text, const QString& title) {
-    return show(QMessageBox::NoIcon, text, title, QMessageBox::Yes | QMessageBox::No) ==
-           QMessageBox::Yes;
+bool msgbox::yes_no(const QString& text, const QString& title, answer usual) {
+    return show(QMessageBox::NoIcon, text, title, QMessageBox::Yes | QMessageBox::No,
+                usual == answer::yes ? QMessageBox::Yes : QMessageBox::No) == QMessageBox::Yes;
 }
 
 void msgbox::set_silent(bool silent) {

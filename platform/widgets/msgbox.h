@@ -15,8 +15,9 @@ void information(const QString& text, const QString& title);
 void critical(const QString& text, const QString& title);
 /// No symbol, OK.
 void plain(const QString& text, const QString& title);
-/// No symbol, Yes and No; true for Yes.
-[[nodiscard]] bool yes_no(const QString& text, const QString& title);
+/// No symbol, Yes and No; true for Yes. Enter gives the `usual` answer.
+enum class answer { yes, no };
+[[nodiscard]] bool yes_no(const QString& text, const QString& title, answer usual = answer::yes);
 
 /// Shows no box from now on, as befits a program without a window; a question is answered with No.
 void set_silent(bool silent);
