@@ -15,6 +15,6 @@ FrmParameter::FrmParameter(QWidget* parent) : edit_dialog(u"参数设置"_s, par
     finish(*txtip);
 }
 
-void FrmParameter::report_conversion() {
-    msgbox::critical(u"输入的参数错误，请检查！  "_s, u"输入错误"_s);
+QString FrmParameter::conversion_refusal() const {
+    return u"输入的参数错误，请检查！  "_s;
 }

@@ -15,6 +15,6 @@ public:
 
     explicit FrmParameter(QWidget* parent = nullptr);
 
-    /// Says that the parameters are wrong: a port that is no 16-bit number, or a negative one.
-    void report_conversion() override;
+    /// Also when the port is a number that no port has.
+    [[nodiscard]] QString conversion_refusal() const override;
 };

@@ -4,7 +4,6 @@
 #include "directory/vc_cusclass.h"
 
 #include "listview/frmref.h"
-#include "platform/widgets/msgbox.h"
 
 #include <QApplication>
 
@@ -33,9 +32,9 @@ std::unique_ptr<frmCusclass> vc_cusclass::make_dialog() const {
     return std::make_unique<frmCusclass>(QApplication::activeWindow());
 }
 
-bool vc_cusclass::validate(const m_cusclass& checked) const {
-    if (checked.cname.size() > longest_name) {
-        msgbox::critical(u"输入的客户分类太长错误，请检查！  "_s, u"输入错误"_s);
+bool vc_cusclass::validate(frmCusclass& dialog) const {
+    if (dialog.record.cname.size() > longest_name) {
+        dialog.refuse(u"txtText"_s, u"输入的客户分类太长错误，请检查！  "_s);
         return false;
     }
     return true;

@@ -15,7 +15,7 @@ public:
 
 protected:
     [[nodiscard]] std::unique_ptr<frmCusclass> make_dialog() const override;
-    [[nodiscard]] bool validate(const m_cusclass& checked) const override;
+    [[nodiscard]] bool validate(frmCusclass& dialog) const override;
     [[nodiscard]] bool insert(const m_cusclass& added) const override;
     [[nodiscard]] bool update(const m_cusclass& changed) const override;
 };

@@ -4,7 +4,6 @@
 #include "directory/vc_customer.h"
 
 #include "listview/frmref.h"
-#include "platform/widgets/msgbox.h"
 
 #include <QApplication>
 
@@ -31,9 +30,9 @@ std::unique_ptr<frmCustomer> vc_customer::make_dialog() const {
     return std::make_unique<frmCustomer>(QApplication::activeWindow());
 }
 
-bool vc_customer::validate(const m_customer& checked) const {
-    if (checked.mobile.trimmed().isEmpty()) {
-        msgbox::critical(u"输入的客户信息错误，必须输入手机号码，请检查！  "_s, u"输入错误"_s);
+bool vc_customer::validate(frmCustomer& dialog) const {
+    if (dialog.record.mobile.trimmed().isEmpty()) {
+        dialog.refuse(u"txtMobile"_s, u"输入的客户信息错误，必须输入手机号码，请检查！  "_s);
         return false;
     }
     return true;

@@ -15,7 +15,7 @@ public:
 
 protected:
     [[nodiscard]] std::unique_ptr<frmCustomer> make_dialog() const override;
-    [[nodiscard]] bool validate(const m_customer& checked) const override;
+    [[nodiscard]] bool validate(frmCustomer& dialog) const override;
     [[nodiscard]] bool insert(const m_customer& added) const override;
     [[nodiscard]] bool update(const m_customer& changed) const override;
 };

@@ -3,8 +3,6 @@
 
 #include "directory/vc_group.h"
 
-#include "platform/widgets/msgbox.h"
-
 #include <QApplication>
 
 using namespace Qt::StringLiterals;
@@ -30,9 +28,9 @@ std::unique_ptr<frmGroup> vc_group::make_dialog() const {
     return std::make_unique<frmGroup>(classes_, customers_, QApplication::activeWindow());
 }
 
-bool vc_group::validate(const m_group& checked) const {
-    if (checked.cid == 0 && checked.ccid == 0) {
-        msgbox::critical(u"输入的客户分组太长错误，请检查！  "_s, u"输入错误"_s);
+bool vc_group::validate(frmGroup& dialog) const {
+    if (dialog.record.cid == 0 && dialog.record.ccid == 0) {
+        dialog.refuse(u"txtccID"_s, u"输入的客户分组太长错误，请检查！  "_s);
         return false;
     }
     return true;

@@ -15,7 +15,7 @@ public:
 
 protected:
     [[nodiscard]] std::unique_ptr<frmGroup> make_dialog() const override;
-    [[nodiscard]] bool validate(const m_group& checked) const override;
+    [[nodiscard]] bool validate(frmGroup& dialog) const override;
     [[nodiscard]] bool insert(const m_group& added) const override;
     [[nodiscard]] bool update(const m_group& changed) const override;
 

@@ -8,6 +8,8 @@
 
 #include <QApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr entity_messages texts{
@@ -22,7 +24,7 @@ bool validate(FrmParameter& dialog) {
     if (port >= 0 && port <= 65535) {
         return true;
     }
-    dialog.report_conversion();
+    dialog.refuse(u"txtport"_s, dialog.conversion_refusal());
     return false;
 }
 

@@ -4,7 +4,6 @@
 #include "directory/vc_smsm.h"
 
 #include "listview/frmref.h"
-#include "platform/widgets/msgbox.h"
 
 #include <QApplication>
 
@@ -32,9 +31,9 @@ std::unique_ptr<frmSmsm> vc_smsm::make_dialog() const {
     return std::make_unique<frmSmsm>(QApplication::activeWindow());
 }
 
-bool vc_smsm::validate(const m_smsmodel& checked) const {
-    if (checked.text.size() > longest_phrase) {
-        msgbox::critical(u"输入的短语太长错误，请检查！  "_s, u"输入错误"_s);
+bool vc_smsm::validate(frmSmsm& dialog) const {
+    if (dialog.record.text.size() > longest_phrase) {
+        dialog.refuse(u"txtText"_s, u"输入的短语太长错误，请检查！  "_s);
         return false;
     }
     return true;

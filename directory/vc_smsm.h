@@ -15,7 +15,7 @@ public:
 
 protected:
     [[nodiscard]] std::unique_ptr<frmSmsm> make_dialog() const override;
-    [[nodiscard]] bool validate(const m_smsmodel& checked) const override;
+    [[nodiscard]] bool validate(frmSmsm& dialog) const override;
     [[nodiscard]] bool insert(const m_smsmodel& added) const override;
     [[nodiscard]] bool update(const m_smsmodel& changed) const override;
 };

@@ -21,6 +21,8 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -41,6 +43,23 @@ void set_box_text(QLineEdit& box, const QString& text) {
 }
 void set_box_text(QPlainTextEdit& box, const QString& text) {
     box.setPlainText(text);
+}
+
+void select_all(QWidget* box) {
+    if (auto* line = qobject_cast<QLineEdit*>(box)) {
+        line->selectAll();
+    } else if (auto* text = qobject_cast<QPlainTextEdit*>(box)) {
+        text->selectAll();
+    }
+}
+void select_nothing(QWidget* box) {
+    if (auto* line = qobject_cast<QLineEdit*>(box)) {
+        line->deselect();
+    } else if (auto* text = qobject_cast<QPlainTextEdit*>(box)) {
+        QTextCursor cursor = text->textCursor();
+        cursor.clearSelection();
+        text->setTextCursor(cursor);
+    }
 }
 
 /// Saves only what was changed: a box normalises line breaks and shortens what is too long for it.
@@ -80,8 +99,31 @@ bool edit_dialog::ask() {
         loaded_ = true;
     }
     okflag = u"False"_s;
+    setModal(true);
+    show(); // which selects all in the box with the keyboard: the next key would replace it
+    if (std::exchange(begins_, false)) {
+        first_box_->setFocus();
+        select_all(first_box_);
+    } else {
+        select_nothing(focusWidget());
+    }
     exec();
     return okflag == "True"_L1;
+}
+
+void edit_dialog::begin_anew() {
+    begins_ = true;
+}
+
+void edit_dialog::begin_in(const QString& box) {
+    first_box_ = findChild<QWidget*>(box);
+}
+
+void edit_dialog::refuse(const QString& box, const QString& text) {
+    msgbox::critical(text, u"输入错误"_s);
+    auto* refused = findChild<QWidget*>(box);
+    refused->setFocus();
+    select_nothing(refused);
 }
 
 void edit_dialog::add_row(const QString& name, const QString& label, QWidget* box) {
@@ -211,14 +253,14 @@ void edit_dialog::load() {
         bound.load();
     }
 }
+    buttons.ok->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where one types
 
 void edit_dialog::save() {
     for (const binding& bound : bindings_) {
         try {
             bound.save();
         } catch (const DataError&) {
-            report_conversion();
-            bound.box->setFocus();
+            refuse(bound.box->objectName(), conversion_refusal());
             return;
         }
     }
@@ -226,16 +268,6 @@ void edit_dialog::save() {
     accept();
 }
 
-void edit_dialog::report_conversion() {
-    msgbox::critical(u"输入错误"_s, u"输入错误"_s);
-}
-
-void edit_dialog::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    first_box_->setFocus();
-    if (auto* line = qobject_cast<QLineEdit*>(first_box_)) {
-        line->selectAll();
-    } else if (auto* text = qobject_cast<QPlainTextEdit*>(first_box_)) {
-        text->selectAll();
-    }
+QString edit_dialog::conversion_refusal() const {
+    return u"输入错误"_s;
 }

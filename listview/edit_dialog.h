@@ -26,9 +26,16 @@ public:
     QString okflag;
 
     /// Shows the dialog modally and waits; true when the operator saved. The record is shown the
-    /// first time; later the boxes keep what was typed.
+    /// first time, and the keyboard is in the first box with all of it selected; later the boxes
+    /// keep what was typed, the keyboard stays where it was, and nothing is selected.
     [[nodiscard]] bool ask();
 
+    /// What was typed is saved: the next `ask` begins in the first box again.
+    void begin_anew();
+    /// Makes the box of this name the first one.
+    void begin_in(const QString& box);
+    /// Tells why the record cannot be saved, and puts the keyboard into the box that this is about.
+    void refuse(const QString& box, const QString& text);
 protected:
     edit_dialog(const QString& caption, QWidget* parent);
 
@@ -66,10 +73,8 @@ protected:
     /// Fills record fields that depend on the moment of showing; called before the boxes are
     /// filled.
     virtual void before_load() {}
-    /// Tells the operator that a box cannot be converted.
-    virtual void report_conversion();
-
-    void showEvent(QShowEvent* event) override;
+    /// What the operator is told when a box cannot be converted.
+    [[nodiscard]] virtual QString conversion_refusal() const;
 
 private:
     struct binding {
@@ -89,3 +94,4 @@ private:
     QWidget* first_box_ = nullptr;
     bool loaded_ = false;
 };
+    bool begins_ = true; ///< the next `ask` begins in the first box

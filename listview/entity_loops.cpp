@@ -15,8 +15,10 @@ bool add_loop(edit_dialog& dialog, const entity_messages& messages, const record
         }
         if (!insert()) {
             msgbox::information(messages.insert_failed.toString(), u"不能保存 "_s);
-        } else if (!msgbox::yes_no(messages.insert_succeeded.toString(), u"保存成功"_s,
-                                   messages.goes_on)) {
+        } else if (msgbox::yes_no(messages.insert_succeeded.toString(), u"保存成功"_s,
+                                  messages.goes_on)) {
+            dialog.begin_anew();
+        } else {
             return true;
         }
     }

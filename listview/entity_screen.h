@@ -54,7 +54,7 @@ public:
     bool createrec() override {
         const std::unique_ptr<Dialog> dialog = make_dialog();
         return add_loop(
-            *dialog, this->messages(), [&] { return validate(dialog->record); },
+            *dialog, this->messages(), [&] { return validate(*dialog); },
             [&] { return insert(dialog->record); });
     }
 
@@ -67,14 +67,14 @@ public:
         const std::unique_ptr<Dialog> dialog = make_dialog();
         dialog->record = *found;
         return edit_loop(
-            *dialog, this->messages(), [&] { return validate(dialog->record); },
+            *dialog, this->messages(), [&] { return validate(*dialog); },
             [&] { return update(dialog->record); });
     }
 
 protected:
     [[nodiscard]] virtual std::unique_ptr<Dialog> make_dialog() const = 0;
-    /// True when the record may be saved; shows its own message otherwise.
-    [[nodiscard]] virtual bool validate(const record& checked) const = 0;
+    /// True when the dialog's record may be saved; otherwise the dialog has told why.
+    [[nodiscard]] virtual bool validate(Dialog& dialog) const = 0;
     [[nodiscard]] virtual bool insert(const record& added) const = 0;
     [[nodiscard]] virtual bool update(const record& changed) const = 0;
 };

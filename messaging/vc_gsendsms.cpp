@@ -3,7 +3,6 @@
 
 #include "messaging/vc_gsendsms.h"
 
-#include "platform/widgets/msgbox.h"
 #include "platform/widgets/progress_box.h"
 #include "platform/widgets/wait_cursor.h"
 
@@ -35,9 +34,9 @@ std::unique_ptr<frmGsendsms> vc_gsendsms::make_dialog() const {
                                          QApplication::activeWindow());
 }
 
-bool vc_gsendsms::validate(const m_gsendsms& checked) const {
-    if (checked.sms.trimmed().isEmpty()) {
-        msgbox::critical(u"输入的短信发送信息错误，必须输入短信，请检查！  "_s, u"输入错误"_s);
+bool vc_gsendsms::validate(frmGsendsms& dialog) const {
+    if (dialog.record.sms.trimmed().isEmpty()) {
+        dialog.refuse(u"txtSms"_s, u"输入的短信发送信息错误，必须输入短信，请检查！  "_s);
         return false;
     }
     return true;

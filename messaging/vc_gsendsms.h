@@ -17,7 +17,7 @@ public:
 
 protected:
     [[nodiscard]] std::unique_ptr<frmGsendsms> make_dialog() const override;
-    [[nodiscard]] bool validate(const m_gsendsms& checked) const override;
+    [[nodiscard]] bool validate(frmGsendsms& dialog) const override;
     [[nodiscard]] bool insert(const m_gsendsms& added) const override;
     [[nodiscard]] bool update(const m_gsendsms& /*changed*/) const override { return false; }
 

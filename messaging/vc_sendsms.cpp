@@ -3,8 +3,6 @@
 
 #include "messaging/vc_sendsms.h"
 
-#include "platform/widgets/msgbox.h"
-
 #include <QApplication>
 
 using namespace Qt::StringLiterals;
@@ -12,9 +10,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr entity_messages texts{
-    .goes_on = msgbox::answer::no, // some Returns in a row must not send it twice
     .insert_failed = u"输入错误，不能保存短信信息，请检查！",
     .insert_succeeded = u"成功创建一个短信信息，继续创建吗？ ",
+    .goes_on = msgbox::answer::no, // some Returns in a row must not send it twice
     .delete_succeeded = u"成功删除短信",
     .delete_failed = u"不能删除短信",
 };
@@ -31,13 +29,13 @@ std::unique_ptr<frmSendsms> vc_sendsms::make_dialog() const {
                                         QApplication::activeWindow());
 }
 
-bool vc_sendsms::validate(const m_sendsms& checked) const {
-    if (checked.sms.trimmed().isEmpty()) {
-        msgbox::critical(u"输入的短信信息错误，必须输入短信，请检查！  "_s, u"输入错误"_s);
+bool vc_sendsms::validate(frmSendsms& dialog) const {
+    if (dialog.record.sms.trimmed().isEmpty()) {
+        dialog.refuse(u"txtSms"_s, u"输入的短信信息错误，必须输入短信，请检查！  "_s);
         return false;
     }
-    if (checked.mobile.trimmed().isEmpty()) {
-        msgbox::critical(u"输入的短信信息错误，必须输入手机号码，请检查！  "_s, u"输入错误"_s);
+    if (dialog.record.mobile.trimmed().isEmpty()) {
+        dialog.refuse(u"txtMobile"_s, u"输入的短信信息错误，必须输入手机号码，请检查！  "_s);
         return false;
     }
     return true;

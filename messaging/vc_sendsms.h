@@ -16,7 +16,7 @@ public:
 
 protected:
     [[nodiscard]] std::unique_ptr<frmSendsms> make_dialog() const override;
-    [[nodiscard]] bool validate(const m_sendsms& checked) const override;
+    [[nodiscard]] bool validate(frmSendsms& dialog) const override;
     [[nodiscard]] bool insert(const m_sendsms& added) const override;
     [[nodiscard]] bool update(const m_sendsms& /*changed*/) const override { return false; }
 

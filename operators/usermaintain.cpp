@@ -52,8 +52,10 @@ bool read_user(frmuser& dialog, qint32 id) {
 bool usermaintain::adduser() {
     frmuser dialog(QApplication::activeWindow());
     while (dialog.ask()) {
-        if (checkuser(dialog) && insertuser(dialog) &&
-            !msgbox::yes_no(u"成功创建一个新的用户，是否继续? "_s, u"创建成功"_s)) {
+        if (!checkuser(dialog) || !insertuser(dialog)) {
+            continue;
+        }
+        if (!msgbox::yes_no(u"成功创建一个新的用户，是否继续? "_s, u"创建成功"_s)) {
             return true;
         }
     }
@@ -64,6 +66,7 @@ bool usermaintain::modifyuser(qint32 id) {
     try {
         frmuser dialog(QApplication::activeWindow());
         if (!read_user(dialog, id)) {
+        dialog.begin_anew();
             msgbox::information(u"不能修改已经存在的用户"_s, u"修改错误"_s);
             return false;
         }
@@ -90,13 +93,13 @@ bool usermaintain::deleteuser(qint32 id) {
     return true;
 }
 
-bool usermaintain::checkuser(const frmuser& dialog) {
+bool usermaintain::checkuser(frmuser& dialog) {
     if (nvltrim(dialog.record.username).isEmpty()) {
-        msgbox::critical(u"用户名称输入错误请检查！"_s, u"输入错误"_s);
+        dialog.refuse(u"txtUserName"_s, u"用户名称输入错误请检查！"_s);
         return false;
     }
     if (dialog.record.password != dialog.record.conpass) {
-        msgbox::critical(u"用户口令输入错误！ "_s, u"输入错误"_s);
+        dialog.refuse(u"txtconpass"_s, u"用户口令输入错误！ "_s);
         return false;
     }
     return true;

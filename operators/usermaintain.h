@@ -19,8 +19,8 @@ bool modifyuser(qint32 id);
 /// Deletes an operator without asking; the rights rows stay.
 bool deleteuser(qint32 id);
 
-/// Whether what stands in the dialog can be saved; shows its own message otherwise.
-[[nodiscard]] bool checkuser(const frmuser& dialog);
+/// Whether what stands in the dialog can be saved; otherwise the dialog has told why.
+[[nodiscard]] bool checkuser(frmuser& dialog);
 /// These store what stands in the dialog; false, and a message, when that fails.
 [[nodiscard]] bool insertuser(const frmuser& dialog);
 [[nodiscard]] bool updateuser(const frmuser& dialog);
