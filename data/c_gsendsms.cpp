@@ -14,6 +14,11 @@ namespace {
 
 constexpr qsizetype report_interval = 500; // in messages
 
+QString addressees_of(qint16 cid, qint16 isall) {
+    return isall != 0 ? u"select cid,mobile from customer "_s
+                      : u"select cid,mobile from vwgroup where ccid= %1"_s.arg(literal(cid));
+}
+
 } // namespace
 
 void c_gsendsms::openrs(Recordset& rs) const {
@@ -86,9 +91,7 @@ void c_gsendsms::expand(Connection& connection, const m_gsendsms& send,
                  literal(send.stime), literal(send.rtime)));
     Recordset addressees;
     addressees.set_ActiveConnection(connection);
-    addressees.Open(send.isall != 0 ? u"select cid,mobile from customer "_s
-                                    : u"select cid,mobile from vwgroup where ccid= %1"_s.arg(
-                                          literal(send.cid)));
+    addressees.Open(addressees_of(send.cid, send.isall));
     // What is the same in every message is written once: this may run 32,767 times.
     const QString before =
         u"INSERT INTO sendsms (mobile,  sms,cid, sendisok,  smsfrom, imsend, rtime, stime) values ("_s;
@@ -103,6 +106,11 @@ void c_gsendsms::expand(Connection& connection, const m_gsendsms& send,
         const qint16 customer = to_int16(rows.value(row, 0));
         connection.Execute(before + literal(rows.text(row, 1)) + text + literal(customer) + after);
     }
+}
+
+std::optional<qint32> c_gsendsms::count_addressees(qint16 cid, qint16 isall) const {
+    return read_one(u"select count(*) as addressees from (%1)"_s.arg(addressees_of(cid, isall)),
+                    [](const Recordset& rs) { return rs.Fields(u"addressees"_s).toInt(); });
 }
 
 bool c_gsendsms::updaterec(qint16 gsid, qint16 cid, bool imsend, qint16 isall,

@@ -31,6 +31,8 @@ public:
     [[nodiscard]] bool addrec(const QString& sms, qint16 cid, bool imsend, qint16 isall,
                               const QDateTime& rtime, const QDateTime& stime,
                               const progress_report& report = {}) const;
+    /// How many customers `addrec` would address; nothing when the database does not tell.
+    [[nodiscard]] std::optional<qint32> count_addressees(qint16 cid, qint16 isall) const;
     /// Leaves the messages made from it as they are.
     [[nodiscard]] bool updaterec(qint16 gsid, qint16 cid, bool imsend, qint16 isall,
                                  const QDateTime& rtime, const QDateTime& stime) const;

@@ -9,8 +9,8 @@
 class QLineEdit;
 class vc_in;
 
-/// Puts a customer into a class; both are picked. The names and the mobile are shown for
-/// orientation.
+/// Puts a customer into a class; both are picked and never typed. The names and the mobile are
+/// shown for orientation.
 class frmGroup : public edit_dialog {
     Q_OBJECT
 

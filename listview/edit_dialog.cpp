@@ -196,13 +196,18 @@ QPlainTextEdit* edit_dialog::add_text(const QString& name, const QString& label,
     return box;
 }
 
-void edit_dialog::add_note(const QString& name, const QPlainTextEdit& box,
-                           std::function<QString(const QString&)> tell) {
-    auto* note = new QLabel(tell({}), this);
+QLabel* edit_dialog::add_note(const QString& name, const QString& text) {
+    auto* note = new QLabel(text, this);
     note->setObjectName(name);
     auto* row = new QHBoxLayout; // a row like the others
     row->addWidget(note);
     form_->addRow(static_cast<QWidget*>(nullptr), row);
+    return note;
+}
+
+void edit_dialog::add_note(const QString& name, const QPlainTextEdit& box,
+                           std::function<QString(const QString&)> tell) {
+    QLabel* note = add_note(name, tell({}));
     connect(&box, &QPlainTextEdit::textChanged, note,
             [note, &box, tell = std::move(tell)] { note->setText(tell(box_text(box))); });
 }
@@ -215,14 +220,23 @@ QCheckBox* edit_dialog::add_check(const QString& name, const QString& caption, q
     return box;
 }
 
-void edit_dialog::add_picker_button(const QString& name, QWidget& box, const QString& purpose,
-                                    const std::function<void()>& pick) {
+QPushButton* edit_dialog::add_picker_button(const QString& name, QWidget& box,
+                                            const QString& purpose,
+                                            const std::function<void()>& pick) {
     auto* button = make_picker_button(name, purpose);
     row_of(box).addWidget(button, 0, Qt::AlignTop);
     connect(button, &QPushButton::clicked, this, guarded([pick, &box] {
                 pick();
                 box.setFocus();
             }));
+    return button;
+}
+
+void edit_dialog::leave_to(QPushButton* button, std::initializer_list<QLineEdit*> boxes) {
+    for (QLineEdit* box : boxes) {
+        box->setReadOnly(true);
+        box->setFocusProxy(button);
+    }
 }
 
 QHBoxLayout& edit_dialog::row_of(const QWidget& box) const {
@@ -239,12 +253,14 @@ void edit_dialog::finish(QWidget& first_box) {
         add_buttons(*this, *qobject_cast<QVBoxLayout*>(layout()), u"保存"_s, u"取消"_s);
     buttons.ok->setObjectName(u"cmdok"_s);
     buttons.cancel->setObjectName(u"cmdcancel"_s);
+    buttons.ok->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where one types
     connect(buttons.ok, &QPushButton::clicked, this, &edit_dialog::save);
     // Enter breaks the line in a box of several lines; Ctrl+Enter saves from everywhere.
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), this), &QShortcut::activated,
             buttons.ok, &QPushButton::click);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 60);
-    resize(minimumWidth(), layout()->totalMinimumSize().height());
+    const QSize needed = layout()->totalMinimumSize();
+    setMinimumWidth(qMax(fontMetrics().averageCharWidth() * 60, needed.width()));
+    resize(minimumWidth(), needed.height());
 }
 
 void edit_dialog::load() {
@@ -253,7 +269,6 @@ void edit_dialog::load() {
         bound.load();
     }
 }
-    buttons.ok->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where one types
 
 void edit_dialog::save() {
     for (const binding& bound : bindings_) {

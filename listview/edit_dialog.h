@@ -11,6 +11,7 @@
 class QCheckBox;
 class QFormLayout;
 class QHBoxLayout;
+class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
@@ -29,13 +30,13 @@ public:
     /// first time, and the keyboard is in the first box with all of it selected; later the boxes
     /// keep what was typed, the keyboard stays where it was, and nothing is selected.
     [[nodiscard]] bool ask();
-
     /// What was typed is saved: the next `ask` begins in the first box again.
     void begin_anew();
     /// Makes the box of this name the first one.
     void begin_in(const QString& box);
     /// Tells why the record cannot be saved, and puts the keyboard into the box that this is about.
     void refuse(const QString& box, const QString& text);
+
 protected:
     edit_dialog(const QString& caption, QWidget* parent);
 
@@ -47,7 +48,9 @@ protected:
     QLineEdit* add_line(const QString& name, const QString& label, QString& field);
     /// A box of several lines.
     QPlainTextEdit* add_text(const QString& name, const QString& label, QString& field);
-    /// A line below the row added last that tells something about a box's text.
+    /// A line below the row added last, for a text that is not typed.
+    QLabel* add_note(const QString& name, const QString& text = {});
+    /// The same for what `tell` makes of a box's text.
     void add_note(const QString& name, const QPlainTextEdit& box,
                   std::function<QString(const QString&)> tell);
     /// A check box with a caption of its own; checked is -1, else 0.
@@ -65,8 +68,11 @@ protected:
                                     std::function<void(const QString&)> save);
 
     /// Puts a small button "…" behind a box that `pick` fills. Afterwards the box has the focus.
-    void add_picker_button(const QString& name, QWidget& box, const QString& purpose,
-                           const std::function<void()>& pick);
+    QPushButton* add_picker_button(const QString& name, QWidget& box, const QString& purpose,
+                                   const std::function<void()>& pick);
+    /// Nothing is typed into these boxes: the button fills them, and has the keyboard in their
+    /// place.
+    static void leave_to(QPushButton* button, std::initializer_list<QLineEdit*> boxes);
     /// Ends the form with its buttons; called last by the constructor.
     void finish(QWidget& first_box);
 
@@ -93,5 +99,5 @@ private:
     std::vector<binding> bindings_;
     QWidget* first_box_ = nullptr;
     bool loaded_ = false;
-};
     bool begins_ = true; ///< the next `ask` begins in the first box
+};

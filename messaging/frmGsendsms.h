@@ -6,6 +6,8 @@
 #include "data/m_gsendsms.h"
 #include "messaging/message_dialog.h"
 
+#include <optional>
+
 class QLineEdit;
 
 /// Writes a group send: to which class or to all, what, and when.
@@ -13,12 +15,21 @@ class frmGsendsms : public message_dialog<m_gsendsms> {
     Q_OBJECT
 
 public:
+    /// To how many customers a group send with these fields goes; nothing when that is not known.
+    using addressee_count = std::function<std::optional<qint32>(qint16 cid, qint16 isall)>;
+
     /// `classes` and `phrases` serve the two picker buttons.
-    frmGsendsms(vc_in& classes, vc_in& phrases, clock_source now, QWidget* parent = nullptr);
+    frmGsendsms(vc_in& classes, vc_in& phrases, clock_source now, addressee_count count,
+                QWidget* parent = nullptr);
 
 private:
     void pick_class(vc_in& classes);
+    [[nodiscard]] std::optional<qint32> addressees() const;
+    void tell_addressees();
 
+    addressee_count count_;
     QLineEdit* txtCid;
     QLineEdit* txtCname;
+    QCheckBox* Chkall;
+    QLabel* lblAddressees;
 };

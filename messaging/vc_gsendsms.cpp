@@ -18,8 +18,8 @@ constexpr qsizetype long_run = 2000; // messages; fewer are written before a box
 
 constexpr entity_messages texts{
     .insert_failed = u"输入错误，不能保存短信发送信息，请检查！",
-    .goes_on = msgbox::answer::no, // some Returns in a row must not send it twice
     .insert_succeeded = u"成功创建一个短信发送信息，继续创建吗？ ",
+    .goes_on = msgbox::answer::no, // some Returns in a row must not send it twice
     .delete_succeeded = u"成功删除短信发送",
     .delete_failed = u"不能删除短信发送",
 };
@@ -30,8 +30,10 @@ vc_gsendsms::vc_gsendsms(QMdiArea& windows, vc_in& classes, vc_in& phrases)
     : entity_screen(windows, u"v_gsendsms", u"gsid", texts), classes_(classes), phrases_(phrases) {}
 
 std::unique_ptr<frmGsendsms> vc_gsendsms::make_dialog() const {
-    return std::make_unique<frmGsendsms>(classes_, phrases_, system_clock,
-                                         QApplication::activeWindow());
+    return std::make_unique<frmGsendsms>(
+        classes_, phrases_, system_clock,
+        [this](qint16 cid, qint16 isall) { return records->count_addressees(cid, isall); },
+        QApplication::activeWindow());
 }
 
 bool vc_gsendsms::validate(frmGsendsms& dialog) const {

@@ -81,6 +81,12 @@ void readable_style::drawPrimitive(PrimitiveElement element, const QStyleOption*
         QStyleOptionButton outlined = *button; // the outline is a darker shade of the window
         outlined.palette.setColor(QPalette::Window, button->palette.windowText().color());
         QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
+    } else if (element == PE_PanelLineEdit && option->state.testFlag(State_ReadOnly)) {
+        QStyleOptionFrame plain = *qstyleoption_cast<const QStyleOptionFrame*>(option);
+        plain.palette.setBrush(QPalette::Base, plain.palette.window()); // nothing is typed there
+        plain.state.setFlag(State_HasFocus, widget != nullptr && widget->focusProxy() == nullptr &&
+                                                widget->hasFocus());
+        QProxyStyle::drawPrimitive(element, &plain, painter, widget);
     } else if (element == PE_FrameGroupBox && is_dark(option->palette)) {
         painter->save();
         painter->setCompositionMode(QPainter::CompositionMode_Plus); // else a shade on a shade

@@ -124,8 +124,10 @@ private slots:
 
     void checks_the_port() {
         QString last = u"1"_s;
+        const QString note = u"修改以后，请退出程序再进来，新的参数才起作用。"_s;
         for (const auto& port : {u"-1"_s, u"40000"_s, u"abc"_s, QString()}) {
-            answer<FrmParameter>({{u"txtport"_s, last}}, {{u"txtport"_s, port}});
+            answer<FrmParameter>({{u"txtport"_s, last}, {u"lblRestart"_s, note}},
+                                 {{u"txtport"_s, port}});
             expect_refusal(u"输入的参数错误，请检查！  "_s);
             last = port;
         }
@@ -157,7 +159,8 @@ private slots:
             person::type(dialog, u"txtStime"_s, u"2024-02-30 08:00:00"_s);
             expect_refusal(u"输入错误"_s);
             person::click(dialog, u"cmdok"_s);
-            person::type(dialog, u"txtStime"_s, shown.addSecs(1).toString(format));
+            person::type(dialog, u"txtStime"_s,
+                         shown.addSecs(1).toString(u"yyyy－MM－dd　HH：mm：ss"_s)); // wide ones
             test_database::execute(u"delete from customer"_s);
             pick();
             expect_refusal(u"No select object"_s, u"Warning"_s);
@@ -177,9 +180,11 @@ private slots:
     }
 
     void needs_a_customer_and_a_class() {
-        answer<frmGroup>({{u"txtcid"_s, u"0"_s}, {u"txtccID"_s, u"0"_s}}, {});
+        const person::boxes picked_only{
+            {u"txtcid"_s, u"7"_s}, {u"txtccID"_s, u"7"_s}, {u"txtCcname"_s, u"会员"_s}};
+        answer<frmGroup>({{u"txtcid"_s, u"0"_s}, {u"txtccID"_s, u"0"_s}}, picked_only);
         expect_refusal(u"输入的客户分组太长错误，请检查！  "_s);
-        answer<frmGroup>({}, {}, u"Cmdrefcus"_s);
+        answer<frmGroup>({{u"txtCcname"_s, {}}}, {}, u"Cmdrefcus"_s);
         pick();
         answer<frmGroup>({{u"txtcid"_s, u"1"_s}, {u"txtMobile"_s, u"139"_s}}, {}, u"Cmdrefcus"_s);
         pick(u"cmdcancel"_s);
@@ -190,13 +195,19 @@ private slots:
     }
 
     void sends_to_a_class_or_to_all() {
-        answer<frmGsendsms>({{u"txtCid"_s, u"0"_s}}, {{u"txtSms"_s, u" "_s}});
+        test_database::execute(u"insert into cusclass (ccid, cname) values (7, '会员')"_s);
+        test_database::execute(u"insert into cgroup (cid, ccid) values (1, 7)"_s);
+        test_database::execute(u"insert into customer (mobile) values ('138')"_s);
+        answer<frmGsendsms>({{u"txtCid"_s, u"0"_s}, {u"lblAddressees"_s, u"将发给 0 位客户"_s}},
+                            {{u"txtSms"_s, u" "_s}});
         expect_refusal(u"输入的短信发送信息错误，必须输入短信，请检查！  "_s);
         answer<frmGsendsms>({}, {{u"txtCid"_s, {}}, {u"txtSms"_s, u"it's"_s}});
         expect_refusal(u"输入错误"_s);
         answer<frmGsendsms>({}, {{u"txtCid"_s, u"7"_s}});
         person::expect_box(u"不能保存 "_s, u"输入错误，不能保存短信发送信息，请检查！"_s);
-        answer<frmGsendsms>({{u"txtSms"_s, u"it's"_s}}, {}, u"cmdcancel"_s);
+        answer<frmGsendsms>({{u"lblAddressees"_s, u"将发给 1 位客户"_s}}, {}, u"Chkall"_s);
+        answer<frmGsendsms>({{u"txtSms"_s, u"it's"_s}, {u"lblAddressees"_s, u"将发给 2 位客户"_s}},
+                            {}, u"cmdcancel"_s);
         person::click(program_.list(u"mnuTIMEC"_s), u"Add"_s);
     }
 

@@ -133,10 +133,10 @@ private slots:
         vc_parameter none;
         const auto check = [](auto&&... dialogs) { (check_dialog(std::move(dialogs)), ...); };
         check(frmSmsm(), frmCustomer(), FrmParameter(), frmCusclass(), frmGroup(none, none),
-              frmGsendsms(none, none, system_clock), frmSendsms(none, none, system_clock),
-              frmLogin(), frmserver(), frmuser(), frmFind(columns), frmSort(columns),
-              frmref(columns, rows), frmSetList(columns), frmconduser({}, none), frmRights(),
-              frmAbout(*system_registry()));
+              frmGsendsms(none, none, system_clock, [](auto, auto) { return 0; }),
+              frmSendsms(none, none, system_clock), frmLogin(), frmserver(), frmuser(),
+              frmFind(columns), frmSort(columns), frmref(columns, rows), frmSetList(columns),
+              frmconduser({}, none), frmRights(), frmAbout(*system_registry()));
     }
 
     void what_the_style_draws_turns_light_with_a_dark_desktop() {

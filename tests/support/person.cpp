@@ -147,9 +147,11 @@ void person::type(const QWidget& window, const QString& name, const QString& tex
     }
     QTest::keySequence(&box, QKeySequence::SelectAll);
     QTest::keyClick(&box, Qt::Key_Delete);
-    QInputMethodEvent typed;
-    typed.setCommitString(text);
-    QApplication::sendEvent(&box, &typed);
+    if (!box.property("readOnly").toBool()) { // else the system lets no input method in
+        QInputMethodEvent typed;
+        typed.setCommitString(text);
+        QApplication::sendEvent(&box, &typed);
+    }
 }
 
 void person::type(const QWidget& window, const boxes& texts) {
