@@ -17,6 +17,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMenuBar>
@@ -91,6 +92,7 @@ frmMain::frmMain(std::unique_ptr<QMdiArea> windows, const controllers& opened,
     msgbox::set_silent(false);
     restore_placement(*this);
     show_operator();
+    connect(curuser.get(), &rsclsuser::username_changed, this, &frmMain::show_operator);
     engine_.initsend();
 }
 
@@ -107,7 +109,7 @@ void frmMain::build_system_menu() {
     add_item(menu, u"mnuSysRight"_s, u"权限设置"_s,
              with_right(function_id::operator_administration, [this] { frmRights(this).exec(); }));
     add_item(menu, u"mnuChgPassword"_s, u"改变我的口令"_s,
-             [] { usermaintain::modifyuser(curuser->userid()); });
+             [] { usermaintain::modifyuser(curuser->userid(), u"txtPassword"_s); });
     logout_ = add_item(menu, u"logout"_s, u"注销我自己"_s, [this] { log_out_or_in(); });
     add_item(menu, u"mnuSysExit"_s, u"退出(&X)"_s, [this] { close(); });
 }
@@ -192,7 +194,6 @@ void frmMain::log_out_or_in() {
     } else {
         logout_->setText(u"注册"_s);
     }
-    show_operator();
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

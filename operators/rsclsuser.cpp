@@ -23,8 +23,8 @@ rsclsuser::~rsclsuser() = default;
 
 void rsclsuser::logout() {
     userid_ = nobody;
-    username_.clear();
     password_.clear();
+    set_username({});
 }
 
 bool rsclsuser::ReleaseTask(const QVariant& /*task*/, const QVariant& /*argument*/) {
@@ -38,6 +38,11 @@ bool rsclsuser::ApplyTask(const QVariant& /*task*/, const QVariant& /*argument*/
 void rsclsuser::set_userid(qint16 id) {
     userid_ = id;
     refreshRights();
+}
+
+void rsclsuser::set_username(const QString& name) {
+    username_ = name;
+    emit username_changed();
 }
 
 void rsclsuser::refreshRights() {

@@ -6,16 +6,20 @@
 #include "platform/connection.h"
 #include "platform/recordset.h"
 
+#include <QObject>
+
 #include <memory>
 
 /// The session user: who is logged in, and what this operator may do.
-class rsclsuser {
+class rsclsuser : public QObject {
+    Q_OBJECT
+
 public:
     /// `userid` while nobody is logged in.
     static constexpr qint16 nobody = -1;
 
     rsclsuser();
-    ~rsclsuser();
+    ~rsclsuser() override;
     Q_DISABLE_COPY_MOVE(rsclsuser)
 
     /// Back to nobody; the rights rows stay as they are.
@@ -30,12 +34,15 @@ public:
     void refreshRights();
 
     [[nodiscard]] const QString& username() const noexcept { return username_; }
-    void set_username(const QString& name) { username_ = name; }
+    void set_username(const QString& name);
     [[nodiscard]] const QString& password() const noexcept { return password_; }
     void set_password(const QString& password) { password_ = password; }
 
     /// Whether the operator holds the right to a function; when not, and `showmsg`, says so.
     [[nodiscard]] bool CanDo(qint32 funid, bool showmsg);
+
+signals:
+    void username_changed();
 
 private:
     [[nodiscard]] bool holds_right(qint32 funid);

@@ -7,6 +7,7 @@
 #include "data/nvltrim.h"
 #include "data/strconn.h"
 #include "operators/frmuser.h"
+#include "operators/rsclsuser.h"
 #include "platform/command.h"
 #include "platform/recordset.h"
 #include "platform/widgets/msgbox.h"
@@ -47,6 +48,13 @@ bool read_user(frmuser& dialog, qint32 id) {
     return true;
 }
 
+void tell_session_user(const user& changed, qint32 id) {
+    if (id == curuser->userid()) {
+        curuser->set_username(changed.username);
+        curuser->set_password(changed.password);
+    }
+}
+
 } // namespace
 
 bool usermaintain::adduser() {
@@ -58,20 +66,22 @@ bool usermaintain::adduser() {
         if (!msgbox::yes_no(u"成功创建一个新的用户，是否继续? "_s, u"创建成功"_s)) {
             return true;
         }
+        dialog.begin_anew();
     }
     return false;
 }
 
-bool usermaintain::modifyuser(qint32 id) {
+bool usermaintain::modifyuser(qint32 id, const QString& first_box) {
     try {
         frmuser dialog(QApplication::activeWindow());
+        dialog.begin_in(first_box);
         if (!read_user(dialog, id)) {
-        dialog.begin_anew();
             msgbox::information(u"不能修改已经存在的用户"_s, u"修改错误"_s);
             return false;
         }
         while (dialog.ask()) {
             if (checkuser(dialog) && updateuser(dialog)) {
+                tell_session_user(dialog.record, id);
                 msgbox::information(u"成功修改了用户的信息"_s, u"保存成功"_s);
                 return true;
             }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 class Recordset;
 class frmuser;
@@ -14,8 +14,9 @@ namespace usermaintain {
 /// Adds operators until the user of the program stops; true after at least one, false when
 /// cancelled.
 bool adduser();
-/// Changes an operator; true when saved.
-bool modifyuser(qint32 id);
+/// Changes an operator, beginning in the dialog's box of this name; true when saved. The session
+/// user goes by the new name at once.
+bool modifyuser(qint32 id, const QString& first_box = QStringLiteral("txtUserName"));
 /// Deletes an operator without asking; the rights rows stay.
 bool deleteuser(qint32 id);
 
