@@ -180,6 +180,7 @@ void frmMain::show_operator() {
 void frmMain::log_out_or_in() {
     if (curuser->userid() != rsclsuser::nobody) {
         curuser->logout();
+        windows_->closeAllSubWindows(); // nobody may do anything in them
     } else {
         frmLogin login(this);
         login.exec();

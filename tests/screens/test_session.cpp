@@ -101,7 +101,9 @@ private slots:
         // A name is no markup.
         QCOMPARE(person::find<QLabel>(window, u"Panel2"_s).textFormat(), Qt::PlainText);
     }
+        static_cast<void>(program_->list(u"mnuSysUSer"_s));
 
+        QTRY_VERIFY(program_->area.subWindowList().isEmpty());
     void keeps_the_name_of_a_server_that_answers() {
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));

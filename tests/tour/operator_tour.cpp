@@ -82,6 +82,7 @@ void work_as_the_clerk(frmMain& window) {
 }
 
 void delete_the_operator(frmMain& window) {
+    choose(window, u"mnuFile"_s, u"mnuSysUSer"_s);
     front_grid(window).selectRow(1);
     expect_box(u"deleted"_s, u"删除成功|成功删除操作员，编号为:2"_s);
     press(window, u"Delete"_s);
