@@ -197,6 +197,14 @@ void frmMain::log_out_or_in() {
     }
 }
 
+bool frmMain::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) {
+        // No menu falls behind an arrow, not even beside the buttons of a maximised list.
+        setMinimumWidth(menuBar()->sizeHint().width());
+    }
+    return QMainWindow::event(event);
+}
+
 void frmMain::closeEvent(QCloseEvent* event) {
     leave();
     event->accept();

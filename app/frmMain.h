@@ -53,6 +53,7 @@ public:
     [[nodiscard]] dispatch_engine& engine() { return engine_; }
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:

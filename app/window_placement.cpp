@@ -9,7 +9,9 @@
 #include "platform/widgets/msgbox.h"
 
 #include <QGuiApplication>
+#include <QRegion>
 #include <QScreen>
+#include <QStyle>
 #include <QWidget>
 
 #include <algorithm>
@@ -51,12 +53,32 @@ std::optional<std::array<float, 4>> read_settings() {
     return values;
 }
 
-bool is_on_a_screen(const QRect& window) {
-    const QRect title_bar(window.topLeft(), QSize(window.width(), 30));
-    const auto screens = QGuiApplication::screens();
-    return std::any_of(screens.begin(), screens.end(), [&title_bar](const QScreen* screen) {
-        return screen->availableGeometry().intersects(title_bar);
-    });
+/// The window's own frame is known only when it is shown.
+QSize usual_frame(const QStyle& style) {
+    const int border = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    return {2 * border, style.pixelMetric(QStyle::PM_TitleBarHeight) + border};
+}
+
+/// Where the frame begins and how large the window in it is: as wished when the screens show all of
+/// it, else what fits one of them, the one with its middle or the first. `frame` is what the frame
+/// adds to the size.
+QRect bound_to_screens(const QRect& place, const QSize& frame) {
+    QRegion hidden({place.topLeft(), place.size() + frame});
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        hidden -= screen->availableGeometry();
+    }
+    if (hidden.isEmpty()) {
+        return place;
+    }
+    const QScreen* nearest = QGuiApplication::screenAt(place.center());
+    const QRect room =
+        (nearest == nullptr ? QGuiApplication::primaryScreen() : nearest)->availableGeometry();
+    const QSize size = place.size().boundedTo(room.size() - frame);
+    const QPoint last =
+        QRect(room.topLeft(), room.size() - frame - size + QSize(1, 1)).bottomRight();
+    return {
+        {qBound(room.left(), place.left(), last.x()), qBound(room.top(), place.top(), last.y())},
+        size};
 }
 
 } // namespace
@@ -72,10 +94,9 @@ void restore_placement(QWidget& window) {
     const auto pixels = [&window, &values](size_t i) {
         return twips::to_pixels(values->at(i), window.logicalDpiX());
     };
-    QRect place(pixels(0), pixels(1), qMax(pixels(2), 1), qMax(pixels(3), 1));
-    if (!is_on_a_screen(place)) {
-        place.moveCenter(QGuiApplication::primaryScreen()->availableGeometry().center());
-    }
+    const QRect place =
+        bound_to_screens({pixels(0), pixels(1), qMax(pixels(2), 1), qMax(pixels(3), 1)},
+                         usual_frame(*window.style()));
     window.move(place.topLeft());
     window.resize(place.size());
 }
