@@ -14,6 +14,7 @@
 #include "platform/connection_string.h"
 #include "platform/guarded.h"
 #include "platform/settings_store.h"
+#include "platform/termination_watch.h"
 #include "platform/widgets/readable_style.h"
 
 #include <QApplication>
@@ -99,6 +100,12 @@ std::optional<int> start_session(const QString& directory) {
     }
     releaseuser();
     return login.failed ? 1 : 0;
+}
+
+void end_when_asked(QObject& owner) {
+    auto* watch = new termination_watch(&owner);
+    QObject::connect(watch, &termination_watch::requested, watch,
+                     [] { QApplication::closeAllWindows(); });
 }
 
 void set_up_toolkit() {

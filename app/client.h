@@ -71,5 +71,9 @@ private:
 /// Returns nothing when the program is to go on, else its exit status.
 [[nodiscard]] std::optional<int> start_session(const QString& directory);
 
+/// While `owner` lives, ends the program when the system wants it: in good order, as if somebody
+/// closed its windows.
+void end_when_asked(QObject& owner);
+
 /// Sets up the toolkit for this program: title, icon, Chinese standard texts, error boxes.
 void set_up_toolkit();

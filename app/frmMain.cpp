@@ -93,6 +93,7 @@ frmMain::frmMain(std::unique_ptr<QMdiArea> windows, const controllers& opened,
     restore_placement(*this);
     show_operator();
     connect(curuser.get(), &rsclsuser::username_changed, this, &frmMain::show_operator);
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { save_placement(*this); });
     engine_.initsend();
 }
 
@@ -186,6 +187,9 @@ void frmMain::log_out_or_in() {
         login.exec();
         if (login.failed) {
             QCoreApplication::exit(1);
+            return;
+        }
+        if (!curuser) { // the program was ended meanwhile
             return;
         }
     }

@@ -10,7 +10,8 @@
 using namespace Qt::StringLiterals;
 
 int main(int argc, char* argv[]) {
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    end_when_asked(application);
     set_up_toolkit();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == u"--cannot-start") { // the system package's launcher tells why
