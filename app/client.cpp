@@ -89,7 +89,7 @@ std::optional<int> start_session(const QString& directory) {
         strconn = make_strconn(directory);
         ensure_database(strconn);
     } catch (const std::exception& error) {
-        show_error(error);
+        show_last_error(error);
         return 1;
     }
     curuser = std::make_unique<rsclsuser>();

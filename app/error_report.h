@@ -12,3 +12,6 @@
 
 /// Shows an error that no screen has a message of its own for.
 void show_error(const std::exception& error);
+
+/// The same when the program then ends, and says so.
+void show_last_error(const std::exception& error);

@@ -69,7 +69,8 @@ void frmAbout::add_texts(QGridLayout& layout) {
     add_label(layout, 4, u"Label2"_s, {});
     add_line(layout, 5);
     add_label(layout, 6, u"lblDisclaimer"_s,
-              u"警告：客户资料属于隐私，请妥善保管口令和数据库文件。"_s);
+              u"安装的版本：%1\n警告：客户资料属于隐私，请妥善保管口令和数据库文件。"_s.arg(
+                  QString::fromLatin1(SMSCRM_VERSION)));
     add_line(layout, 7);
 }
 

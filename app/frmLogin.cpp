@@ -59,7 +59,7 @@ void frmLogin::cmdOK_Click() {
     try {
         log_in();
     } catch (const std::exception& error) {
-        show_error(error);
+        show_last_error(error);
         failed = true;
         reject();
     }

@@ -13,7 +13,15 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QScreen>
 #include <QTcpServer>
+#include <QToolButton>
+
+#include <csignal>
+#include <latch>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -64,7 +72,10 @@ private slots:
         QTest::newRow("blank before name") << attempt{u" valdrine"_s, {}, u"''"_s, box};
         QTest::newRow("needs one") << attempt{me, {}, u"'y'"_s, box};
         QTest::newRow("Null") << attempt{
-            me, {}, u"null"_s, u"数据的格式或者范围不正确。\n\ninvalid use of Null"_s};
+            me,
+            {},
+            u"null"_s,
+            u"数据的格式或者范围不正确。\n\ninvalid use of Null\n\n程序将退出。"_s};
     }
 
     void logs_in() {
@@ -92,7 +103,9 @@ private slots:
 
     void stays_logged_out_when_nobody_logs_in() {
         const frmMain& window = program_->window;
+        static_cast<void>(program_->list(u"mnuSysUSer"_s));
         person::choose(window, u"logout"_s);
+        QTRY_VERIFY(program_->area.subWindowList().isEmpty());
         person::during_modal<frmLogin>(
             [](frmLogin& login) { person::click(login, u"cmdCancel"_s); });
         person::choose(window, u"logout"_s);
@@ -101,9 +114,7 @@ private slots:
         // A name is no markup.
         QCOMPARE(person::find<QLabel>(window, u"Panel2"_s).textFormat(), Qt::PlainText);
     }
-        static_cast<void>(program_->list(u"mnuSysUSer"_s));
 
-        QTRY_VERIFY(program_->area.subWindowList().isEmpty());
     void keeps_the_name_of_a_server_that_answers() {
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));
@@ -150,6 +161,8 @@ private slots:
                                QMessageBox::NoIcon);
             person::click(dialog, u"cmdSysInfo"_s);
             QCOMPARE(person::text_of(dialog, u"lblVersion"_s), u"版本：1.0.1 belta2"_s);
+            QVERIFY(person::text_of(dialog, u"lblDisclaimer"_s)
+                        .contains(QRegularExpression(u"^安装的版本：\\d+\\.\\d+\\.\\d+\\n"_s)));
             person::click(dialog, u"cmdOK"_s);
         });
         person::choose(program_->window, u"mnuHelpAbout"_s);
@@ -157,17 +170,54 @@ private slots:
 
     void keeps_its_place() {
         frmMain& window = program_->window;
-        const auto left_of_next = [](const QString& kept) {
-            set_setting(u"MainLeft"_s, kept);
+        const auto next = [](const QString& left, const QString& width = u"6500"_s) {
+            set_setting(u"MainLeft"_s, left);
+            set_setting(u"MainWidth"_s, width);
             curuser = std::make_unique<rsclsuser>();
-            return client().open_main_window().x();
+            return client().open_main_window().frameGeometry();
         };
         window.showMinimized();
         window.close();
         QCOMPARE(setting(u"MainLeft"_s), u"none"_s);
-        QCOMPARE(left_of_next(u"600"_s), qRound(600 * window.logicalDpiX() / 1440.0));
+        QCOMPARE(next(u"600"_s).x(), qRound(600 * window.logicalDpiX() / 1440.0));
         person::expect_box(u"系统提示"_s, u"窗口位置的设置不是数字，已恢复为默认值。"_s);
-        QCOMPARE(left_of_next(u"左"_s), qRound(1000 * window.logicalDpiX() / 1440.0));
+        QCOMPARE(next(u"左"_s).x(), qRound(1000 * window.logicalDpiX() / 1440.0));
+        const QRect screen = window.screen()->availableGeometry();
+        for (const auto& [left, width] :
+             {std::pair(u"15000"_s, u"6500"_s), {u"-9000"_s, u"6500"_s}, {u"0"_s, u"90000"_s}}) {
+            QVERIFY2(screen.contains(next(left, width)), qPrintable(left)); // of a larger one
+        }
+    }
+
+    void ends_in_good_order_when_asked_data() {
+        QTest::addColumn<int>("wish");
+        QTest::newRow("shut down") << SIGTERM;
+        QTest::newRow("logged off") << SIGHUP;
+    }
+
+    void ends_in_good_order_when_asked() {
+        QFETCH(const int, wish);
+        std::latch time_to_end(1);
+        std::thread other([&] { // the toolkit has threads as well
+            time_to_end.wait();
+            std::raise(wish);
+        });
+        QObject owner;
+        end_when_asked(owner);
+        person::during_modal<frmAbout>([&](frmAbout&) { time_to_end.count_down(); });
+        person::choose(program_->window, u"mnuHelpAbout"_s);
+        QTRY_VERIFY(!program_->window.isVisible());
+        other.join();
+        QVERIFY(!curuser && setting(u"MainLeft"_s) != u"none"_s);
+    }
+
+    void shows_the_whole_menu() {
+        const auto& behind =
+            person::find<QToolButton>(program_->window, u"qt_menubar_ext_button"_s);
+        program_->window.resize(1, 300);
+        QTRY_VERIFY(!behind.isVisible());
+        static_cast<void>(program_->list(u"mnuProject"_s)); // puts its buttons beside it
+        QTRY_VERIFY(program_->window.menuBar()->cornerWidget() && !behind.isVisible());
     }
 
     void goes_at_once_and_says_nothing_more() {
@@ -184,35 +234,48 @@ private slots:
 
     void tiles_windows() {
         QVERIFY(QTest::qWaitForWindowActive(&program_->window));
+        static_cast<void>(program_->list(u"mnuCreTech"_s));
+        QMdiSubWindow& icon = *program_->area.activeSubWindow();
+        icon.showMinimized();
         static_cast<void>(program_->list(u"mnuProject"_s));
         static_cast<void>(program_->list(u"mnuCreTech"_s));
-        const auto windows = program_->area.subWindowList();
-        const QSize room = program_->area.viewport()->size();
+        auto windows = program_->area.subWindowList();
+        windows.removeOne(&icon);
+        const QSize room = program_->area.viewport()->size() - QSize(0, icon.height());
         for (const auto& [item, both] :
              {std::pair(u"mnuWindowTileHorizontal"_s, room + QSize(room.width(), 0)),
               std::pair(u"mnuWindowTileVertical"_s, room + QSize(0, room.height()))}) {
             person::choose(program_->window, item);
             QCOMPARE(windows[0]->size() + windows[1]->size(), both);
             QVERIFY(!windows[0]->geometry().intersects(windows[1]->geometry()));
+            QVERIFY(!icon.geometry().intersects(windows[0]->geometry() | windows[1]->geometry()));
             QVERIFY(program_->window.focusWidget()->inherits("DataGrid"));
         }
+        person::choose(program_->window, u"mnuWindowCascade"_s);
+        QCOMPARE(windows[0]->size(), room * 3 / 4);
+        QVERIFY(windows[0]->pos() != windows[1]->pos());
+        windows[0]->setGeometry(program_->area.rect());
+        windows[0]->raise();
+        person::choose(program_->window, u"mnuWindowArrangeIcons"_s);
+        QCOMPARE(program_->area.subWindowList(QMdiArea::StackingOrder).last(), &icon);
     }
 
     void refuses_what_is_no_database() {
         const QTemporaryDir folder;
         const auto start = [](const QString& directory, const QString& error) {
             set_setting(u"connection"_s, u"server"_s);
-            expect_refusal(error, u"系统提示"_s);
+            expect_refusal(error.arg(directory + u"/sms.old.mdb"_s) + u"\n\n程序将退出。"_s,
+                           u"系统提示"_s);
             QCOMPARE(start_session(directory), std::optional(1));
             QCOMPARE(setting(u"connection"_s), QString()); // no server name outlives a restart
         };
         start(folder.filePath(u"missing"_s),
-              u"不能打开数据库文件，请检查文件和目录的权限。\n\n此文件或目录不存在"_s);
+              u"不能打开数据库文件，请检查文件和目录的权限：\n%1\n\n此文件或目录不存在"_s);
         const QList<std::pair<QByteArray, QString>> files{
             {QByteArray(4096, 'x'),
-             u"数据库文件已经损坏，或者不是本系统的数据库，请用备份恢复。"_s},
+             u"数据库文件已经损坏，或者不是本系统的数据库，请用备份恢复：\n%1"_s},
             {QByteArray("\0\1\0\0Standard Jet DB\0", 20),
-             u"数据库文件是旧的格式，请先用导入工具“smsdb import”把它转换成新的数据库，原文件没有改动。"_s}};
+             u"数据库文件是旧的格式，请先用导入工具“smsdb import”把它转换成新的数据库，原文件没有改动：\n%1"_s}};
         for (const auto& [content, error] : files) {
             QFile file(folder.filePath(u"sms.old.mdb"_s));
             QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Truncate));
