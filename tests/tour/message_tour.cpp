@@ -160,8 +160,8 @@ void put_two_customers_into_it(frmMain& window) {
 
 void write_to(frmMain& window, const QString& step, const person::answer& fill,
               const QString& filled) {
-    expect_filled("frmGsendsms", step, fill, {u"txtCname"_s, u"txtSms"_s}, filled,
-                  u"成功创建一个短信发送信息，继续创建吗？ "_s);
+    expect_filled("frmGsendsms", step, fill, {u"txtCname"_s, u"lblAddressees"_s, u"txtSms"_s},
+                  filled, u"成功创建一个短信发送信息，继续创建吗？ "_s);
     press(window, u"Add"_s);
 }
 
@@ -177,8 +177,8 @@ void write_to_the_class_and_to_all(frmMain& window) {
         person::type(dialog, u"txtSms"_s, to_all);
     };
     choose(window, u"mnuIN"_s, u"mnuTIMEC"_s);
-    write_to(window, u"group-send"_s, fill_for_members, u"会员|"_s + to_members);
-    write_to(window, u"send-to-all"_s, fill_for_all, u'|' + to_all);
+    write_to(window, u"group-send"_s, fill_for_members, u"会员|将发给 2 位客户|"_s + to_members);
+    write_to(window, u"send-to-all"_s, fill_for_all, u"|将发给 8 位客户|"_s + to_all);
     see_rows(u"group-sends"_s, u"|会员|%1 / √||%2"_s.arg(to_members, to_all), window, 3,
              u"select iif(isall,'√',''), cname, sms from vwgsendsms"_s);
 }
