@@ -9,6 +9,7 @@
 #include "gateway/simulator_backend.h"
 #include "gateway/termination_watch.h"
 #include "platform/program_language.h"
+#include "platform/standard_streams.h"
 #include "platform/terminal.h"
 
 #include <QCoreApplication>
@@ -18,21 +19,11 @@
 #include <cstdlib>
 #include <memory>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Fills closed standard streams, so that no socket or file is taken for one of them.
-void fill_standard_streams() {
-    int descriptor = ::open("/dev/null", O_RDWR);
-    while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
-        descriptor = ::open("/dev/null", O_RDWR);
-    }
-    ::close(descriptor);
-}
 
 void print(const QString& text) {
     std::fputs(terminal_text(text).constData(), stdout);

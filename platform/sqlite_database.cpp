@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QUrl>
 
 #include <sqlite3.h>
 
@@ -28,12 +29,24 @@ bool is_old_format(const QString& path) {
     return header.startsWith("Standard Jet DB") || header.startsWith("Standard ACE DB");
 }
 
-/// How to open for reading alone. Such a reader cannot take away the log that it has to make where
-/// there is none: there it may write, and `query_only` holds it back.
-int reading_flags(const QString& path) {
-    const bool has_log =
-        QFileInfo::exists(path + u"-wal"_s) || QFileInfo::exists(path + u"-journal"_s);
-    return has_log ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+/// What to open for reading alone, and how.
+struct reading {
+    QString name;
+    int flags;
+};
+
+/// Such a reader cannot take away the log that it has to make where there is none: there it may
+/// write, and `query_only` holds it back. Where none can be made, nobody else writes either.
+reading reading_of(const QString& path) {
+    if (QFileInfo::exists(path + u"-wal"_s) || QFileInfo::exists(path + u"-journal"_s)) {
+        return {QDir::toNativeSeparators(path), SQLITE_OPEN_READONLY};
+    }
+    const QFileInfo file(path);
+    if (QFileInfo(file.absolutePath()).isWritable()) {
+        return {QDir::toNativeSeparators(path), SQLITE_OPEN_READWRITE};
+    }
+    const QByteArray url = QUrl::fromLocalFile(file.absoluteFilePath()).toEncoded();
+    return {QString::fromLatin1(url + "?immutable=1"), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI};
 }
 
 DataError::Kind kind_of(int result_code) {
@@ -82,8 +95,12 @@ SqliteDatabase::SqliteDatabase(const QString& path, Mode mode, int lock_wait) {
             throw DataError(DataError::Kind::cannot_open, file.errorString());
         }
     }
-    open(mode == Mode::memory ? u":memory:"_s : path,
-         mode == Mode::read_only ? reading_flags(path) : SQLITE_OPEN_READWRITE);
+    const auto [name, flags] =
+        mode == Mode::read_only
+            ? reading_of(path)
+            : reading{mode == Mode::memory ? u":memory:"_s : QDir::toNativeSeparators(path),
+                      SQLITE_OPEN_READWRITE};
+    open(name, flags);
     // Not waited for: a file on a read-only medium or held by somebody else keeps its mode.
     if (mode == Mode::existing) {
         run_first("PRAGMA journal_mode=WAL", path);
@@ -96,10 +113,10 @@ SqliteDatabase::SqliteDatabase(const QString& path, Mode mode, int lock_wait) {
 
 SqliteDatabase::~SqliteDatabase() = default;
 
-void SqliteDatabase::open(const QString& path, int flags) {
+void SqliteDatabase::open(const QString& name, int flags) {
     sqlite3* handle = nullptr;
-    const int result = sqlite3_open_v2(QDir::toNativeSeparators(path).toUtf8().constData(), &handle,
-                                       flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    const int result =
+        sqlite3_open_v2(name.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     handle_.reset(handle);
     if (result != SQLITE_OK) {
         throw DataError(DataError::Kind::cannot_open, QString::fromUtf8(sqlite3_errstr(result)));
@@ -190,6 +207,13 @@ void SqliteDatabase::copy_to(SqliteDatabase& target) {
         target.raise();
     }
     execute_script("COMMIT");
+}
+
+void SqliteDatabase::write_ahead() {
+    const int result = sqlite3_db_cacheflush(handle_.get());
+    if (result != SQLITE_OK) {
+        throw DataError(kind_of(result), QString::fromUtf8(sqlite3_errstr(result)));
+    }
 }
 
 void SqliteDatabase::fold_log() {

@@ -21,7 +21,8 @@ public:
     enum class Mode {
         existing,
         create,    ///< makes an empty file, readable by its owner alone, where there is none
-        read_only, ///< changes no byte of the file and leaves no log that was not there
+        read_only, ///< changes no byte of the file and leaves no log that was not there; works
+                   ///< where nothing can be written at all
         memory,    ///< an empty database of its own in memory; the path is not used
     };
 
@@ -56,12 +57,15 @@ public:
     /// Copies all content over that of `target`, as it is at this moment: others may go on writing
     /// meanwhile. Throws DataError.
     void copy_to(SqliteDatabase& target);
+    /// Writes out what the open transaction has changed, so that a full disk shows already now and
+    /// not when it is committed. Throws DataError.
+    void write_ahead();
     /// Writes the log back into the file and empties it, unless somebody is reading from it just
     /// now.
     void fold_log();
 
 private:
-    void open(const QString& path, int flags);
+    void open(const QString& name, int flags);
     void run_first(const char* sql, const QString& path);
     [[noreturn]] void raise() const;
 
