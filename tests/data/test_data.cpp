@@ -9,6 +9,7 @@
 #include "data/c_sendsms.h"
 #include "data/c_smsm.h"
 #include "data/constvalues.h"
+#include "data/dialled_number.h"
 #include "data/schema.h"
 #include "data/strconn.h"
 #include "platform/connection_pool.h"
@@ -48,6 +49,33 @@ private slots:
         database_.emplace();
         phrases_.connection = customers_.connection = groups_.connection = parameters_.connection =
             outgoing_.connection = received_.connection = group_sends_.connection = strconn;
+    }
+
+    void dials_data() {
+        QTest::addColumn<QString>("dialled");
+        const auto row = [](const char* written, const QString& dialled) {
+            QTest::newRow(written) << dialled;
+        };
+        row("138-0013-8000", u"13800138000"_s);
+        row(" +86\u00a0139\u30000013\u20098000", u"13900138000"_s);
+        row("008613900138000", u"13900138000"_s);
+        row("８６（139）00138000", u"13900138000"_s);
+        row("【021】5555—0001", u"02155550001"_s);
+        row("(+86)139\u200b0013\u2011800\uff0d0", u"13900138000"_s);
+        row("+1 (212) 555-0100", u"+12125550100"_s);
+        row("＋8621 5555 0001", u"+862155550001"_s);
+        row("86139001380001", u"86139001380001"_s);
+        row("100", u"100"_s);
+        for (const char* none : {"", "12", "123456789012345678901", "无", "138'0", "1.39E+10",
+                                 "138+0", "+", "138 转 8", "138;0"}) {
+            row(none, {});
+        }
+    }
+
+    void dials() {
+        const QString dialled = dialled_number(QString::fromUtf8(QTest::currentDataTag()));
+        QTEST(dialled, "dialled");
+        QCOMPARE(dialled_number(dialled), dialled);
     }
 
     void a_fresh_database_lets_the_operator_in() {
