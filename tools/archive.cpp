@@ -4,6 +4,7 @@
 #include "platform/conversion.h"
 #include "platform/data_error.h"
 #include "platform/sqlite_database.h"
+#include "tools/closing_up.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/csv.h"
@@ -23,7 +24,9 @@ Moves old messages from the database FILE to a new file for a spreadsheet: messa
 time, and messages received whose receipt time, lies before DATE. Messages that wait to be sent stay
 whatever their time, and so does a message whose time cannot be read; those are reported.
 Then the numbers of the messages that stay close up from 1 in their order, and new messages are
-numbered on from there. When no message goes, no file is made and no number changes.
+numbered on from there; so do those of group sends, memberships, rights and the operation log, to
+which nothing points (see smsdb renumber). The file gives back the room that it does not need any
+more. When no message goes, no file is made and no number changes.
 
   --before DATE       YYYY-MM-DD or YYYY/MM/DD; messages of that day itself stay
   --to ARCHIVE.csv    the file to make (default: FILE-before-YYYY-MM-DD.csv); it must not exist yet
@@ -91,45 +94,19 @@ selection select(SqliteDatabase& database, const message_table& table, QDate bef
     return selected;
 }
 
-void write_archive(const QString& path, const QList<selection>& selections) {
+QByteArray archive_of(const QList<selection>& selections) {
     QByteArray content = csv::byte_order_mark.toByteArray() + csv::line(headings());
     for (const selection& selected : selections) {
         content += selected.lines;
     }
-    new_file archive(path);
-    archive.write(content);
-    archive.put_in_place();
+    return content;
 }
 
-/// Takes the rows out and closes up the keys of those that stay.
+/// Takes out the rows of these keys.
 void take_out(SqliteDatabase& database, const message_table& table, const QStringList& going) {
     for (const QString& key : going) {
         database.execute(u"DELETE FROM %1 WHERE %2 = %3"_s.arg(table.name, table.key, key));
     }
-    // Below every key first, so that no new key meets an old one.
-    database.execute(
-        u"UPDATE %1 SET %2 = closed.number - 1000000000000 FROM (SELECT %2 AS old, row_number() OVER (ORDER BY %2) AS number FROM %1) AS closed WHERE %2 = closed.old"_s
-            .arg(table.name, table.key));
-    database.execute(u"UPDATE %1 SET %2 = %2 + 1000000000000"_s.arg(table.name, table.key));
-    database.execute(
-        u"UPDATE sqlite_sequence SET seq = (SELECT count(*) FROM %1) WHERE name = '%1'"_s.arg(
-            table.name));
-}
-
-/// Nobody else has the file open from here until the connection closes.
-void keep_to_oneself(SqliteDatabase& database, const QString& file) {
-    database.execute(u"PRAGMA locking_mode=EXCLUSIVE"_s);
-    try {
-        database.execute(u"BEGIN EXCLUSIVE"_s);
-    } catch (const DataError& error) {
-        if (error.kind() == DataError::Kind::locked) {
-            throw failure(
-                u"%1: is open in a client or another program; close it first"_s.arg(file));
-        }
-        throw;
-    }
-    // A file that cannot be written is refused before an archive is.
-    database.execute(u"DELETE FROM sendsms WHERE 0"_s);
 }
 
 QDate read_date(const QString& text) {
@@ -144,25 +121,24 @@ QDate read_date(const QString& text) {
             text));
 }
 
-void report(const QList<message_table>& tables, const QList<selection>& selections,
-            const QString& archive) {
-    QStringList next;
+/// What is done with the messages; with nothing, where no archive is made.
+QString report(const QList<message_table>& tables, const QList<selection>& selections,
+               const QString& archive) {
+    QString told;
     for (qsizetype i = 0; i < tables.size(); ++i) {
         const message_table& table = tables.at(i);
         const selection& selected = selections.at(i);
         if (!archive.isEmpty()) {
-            print(u"moved %1 %2 message(s) to %3\n"_s.arg(QString::number(selected.going.size()),
-                                                          table.kind, archive));
+            told += u"moved %1 %2 message(s) to %3\n"_s.arg(QString::number(selected.going.size()),
+                                                            table.kind, archive);
         }
         if (!selected.unreadable.isEmpty()) {
-            print(u"kept %1 %2 message(s) whose time cannot be read, number(s) %3\n"_s.arg(
+            told += u"kept %1 %2 message(s) whose time cannot be read, number(s) %3\n"_s.arg(
                 QString::number(selected.unreadable.size()), table.kind,
-                some_of(archive.isEmpty() ? selected.unreadable : selected.unreadable_closed)));
+                some_of(archive.isEmpty() ? selected.unreadable : selected.unreadable_closed));
         }
-        next.append(u"%1 %2"_s.arg(table.name, QString::number(selected.staying + 1)));
     }
-    print(archive.isEmpty() ? u"nothing to archive\n"_s
-                            : u"next numbers: %1\n"_s.arg(next.join(u", "_s)));
+    return told;
 }
 
 QString required(const QCommandLineParser& arguments, const QString& option) {
@@ -172,6 +148,28 @@ QString required(const QCommandLineParser& arguments, const QString& option) {
     return arguments.value(option);
 }
 
+void move_out(SqliteDatabase& database, const QString& file, const QString& place,
+              const QList<message_table>& tables, const QList<selection>& selections) {
+    new_file archive(place);
+    archive.write(archive_of(selections));
+    for (qsizetype i = 0; i < tables.size(); ++i) {
+        take_out(database, tables.at(i), selections.at(i).going);
+    }
+    const QString next = closing_up::close_up(database).join(u", "_s);
+    database.write_ahead();
+    const QString told = report(tables, selections, place) + u"next numbers: %1\n"_s.arg(next);
+    conclude(told, [&] {
+        archive.put_in_place();
+        try {
+            database.execute(u"COMMIT"_s);
+        } catch (const DataError& error) {
+            throw failure(u"%1; its messages stay in it, though %2 is written"_s.arg(
+                describe(error, file), place));
+        }
+    });
+    closing_up::shrink(database);
+}
+
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().first();
     const QDate before = read_date(required(arguments, u"before"_s));
@@ -179,7 +177,7 @@ int run(const QCommandLineParser& arguments) {
                               ? required(arguments, u"to"_s)
                               : u"%1-before-%2.csv"_s.arg(file, before.toString(Qt::ISODate));
     SqliteDatabase database(file, SqliteDatabase::Mode::existing, 0);
-    keep_to_oneself(database, file);
+    closing_up::keep_to_oneself(database, file);
     const QList<message_table> tables = message_tables();
     QList<selection> selections;
     qsizetype going = 0;
@@ -188,20 +186,10 @@ int run(const QCommandLineParser& arguments) {
         going += selections.last().going.size();
     }
     if (going == 0) {
-        report(tables, selections, {});
+        print(report(tables, selections, {}) + u"nothing to archive\n"_s);
         return exit_status::clean;
     }
-    write_archive(place, selections);
-    try {
-        for (qsizetype i = 0; i < tables.size(); ++i) {
-            take_out(database, tables.at(i), selections.at(i).going);
-        }
-        database.execute(u"COMMIT"_s);
-    } catch (const DataError& error) {
-        throw failure(u"%1; its messages stay in it, though %2 is written"_s.arg(
-            describe(error, file), place));
-    }
-    report(tables, selections, place);
+    move_out(database, file, place, tables, selections);
     return exit_status::clean;
 }
 

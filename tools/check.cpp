@@ -17,15 +17,24 @@ constexpr QStringView help = uR"(Usage: smsdb check FILE
 
 Looks through the database FILE, also while clients are working in it, and changes nothing. Prints for
 every table how many rows it holds, the highest number given out so far and how much of the numbers
-1 to 32767 that is. Then come the findings, a line each:
+1 to 32767 that is. Then come notes, which trouble nobody, and the findings, a line each.
 
+Notes:
+  - history (a message, a group send, a line of the log) names what was deleted since
+  - a right or a membership names what is not there (smsdb tidy takes such rows out)
+  - a telephone number is not written as it is dialled (smsdb tidy --numbers mends it), or is none
+
+Findings:
   - the file is damaged
   - a table, a view, a column or the definition of a list is missing
-  - 80 % or more of a table's numbers are given out (smsdb archive starts those of messages over)
+  - 80 % or more of a table's numbers are given out (smsdb archive and smsdb renumber start some over)
   - a value is no 16-bit number, which no screen can read
-  - a row names another that does not exist; 0 stands for none in messages and group sends
+  - a row names another that does not exist, and it is neither of the above
   - the gateway parameters are not exactly one row
   - FILE-lease, which a client locks in order to send, cannot be written
+  - an operator has a Null for a name or a password, and so cannot log in
+  - nobody who can log in may manage the operators (smsdb grant is the way back)
+  - a text that the client writes or searches for has an apostrophe, with which it cannot be saved or found
 
 Exit status: 0 nothing found; 1 findings; 2 the file cannot be used (missing, no database of this
 system, the old format, locked).
@@ -48,10 +57,7 @@ int run(const QCommandLineParser& arguments) {
                   .arg(counted.highest, 10)
                   .arg(u"%1 %"_s.arg(counted.highest * 100 / last_number), 8));
     }
-    print(u"\n"_s);
-    for (const QString& finding : found.findings) {
-        print(u"finding: %1\n"_s.arg(finding));
-    }
+    print(u'\n' + lines(found));
     if (found.findings.isEmpty()) {
         print(u"no findings\n"_s);
         return exit_status::clean;

@@ -15,7 +15,7 @@ class QCommandLineParser;
 namespace exit_status {
 inline constexpr int clean = 0;
 inline constexpr int findings = 1; ///< `check` found something, an import something to report
-inline constexpr int unusable = 2; ///< nothing was done: wrong usage, or the file cannot be used
+inline constexpr int unusable = 2; ///< nothing was done: wrong usage, or a file cannot be used
 } // namespace exit_status
 
 /// Why a command gives up, as the operator is to read it; `what` is UTF-8.
@@ -29,7 +29,7 @@ struct command {
     QString name;
     QString summary;  ///< its line in `smsdb --help`; none for what only this program itself runs
     QStringView help; ///< the whole text of `smsdb NAME --help`
-    qsizetype operands = 1;
+    qsizetype operands = 1; ///< how many; the first is a file
     QList<QCommandLineOption> options;
     /// Does the work and returns the exit status; throws failure, or DataError about the file that
     /// is the first operand.
@@ -37,9 +37,13 @@ struct command {
 };
 
 [[nodiscard]] command check_command();
+[[nodiscard]] command tidy_command();
 [[nodiscard]] command create_command();
 [[nodiscard]] command backup_command();
+[[nodiscard]] command restore_command();
 [[nodiscard]] command archive_command();
+[[nodiscard]] command renumber_command();
+[[nodiscard]] command grant_command();
 [[nodiscard]] command import_customers_command();
 [[nodiscard]] command export_customers_command();
 [[nodiscard]] command import_command();

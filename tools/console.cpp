@@ -7,6 +7,8 @@
 #include "platform/terminal.h"
 #include "tools/command.h"
 
+#include <QStringDecoder>
+
 #include <algorithm>
 #include <cstdio>
 
@@ -17,8 +19,19 @@ void print(const QString& text) {
 }
 
 void flush_output() {
-    if (std::fflush(stdout) != 0) {
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         throw failure(u"standard output cannot be written"_s);
+    }
+}
+
+void conclude(const QString& report, const std::function<void()>& commit) {
+    print(report);
+    flush_output();
+    try {
+        commit();
+    } catch (const std::exception&) {
+        complain(u"what is told above is not done:"_s);
+        throw;
     }
 }
 
@@ -42,6 +55,12 @@ QString describe(const DataError& error, const QString& file) {
         return u"%1: reading or writing failed: %2"_s.arg(file, error.detail());
     default:
         return u"%1: %2"_s.arg(file, error.detail());
+    }
+}
+
+void refuse_charset(const QString& charset) {
+    if (!charset.isEmpty() && !QStringDecoder(charset.toLatin1().constData()).isValid()) {
+        throw failure(u"--charset %1: unknown"_s.arg(charset));
     }
 }
 

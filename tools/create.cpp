@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "data/schema.h"
+#include "platform/data_error.h"
 #include "tools/command.h"
 #include "tools/console.h"
+#include "tools/new_file.h"
 
 #include <QCommandLineParser>
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -23,19 +24,13 @@ Exit status: 0 made; 2 not made.
 
 int run(const QCommandLineParser& arguments) {
     const QString path = arguments.positionalArguments().first();
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly,
-                   QFileDevice::ReadOwner | QFileDevice::WriteOwner)) {
-        throw failure(u"%1: cannot be made: %2"_s.arg(path, file.errorString()));
-    }
-    file.close();
+    new_file made(path);
     try {
-        make_database(path);
-    } catch (const std::exception&) {
-        file.remove();
-        throw;
+        make_database(made.path());
+    } catch (const DataError& error) {
+        throw failure(describe(error, path));
     }
-    print(u"made %1\n"_s.arg(path));
+    conclude(u"made %1\n"_s.arg(path), [&made] { made.put_in_place(); });
     return exit_status::clean;
 }
 

@@ -43,8 +43,8 @@ int run(const QCommandLineParser& arguments) {
     }
     new_file made(place);
     made.write(content);
-    made.put_in_place();
-    print(u"wrote %1 customer(s) to %2\n"_s.arg(QString::number(customers.size()), place));
+    conclude(u"wrote %1 customer(s) to %2\n"_s.arg(QString::number(customers.size()), place),
+             [&made] { made.put_in_place(); });
     return exit_status::clean;
 }
 

@@ -9,34 +9,13 @@
 #include "platform/sqlite_database.h"
 #include "tools/console.h"
 #include "tools/query.h"
-
-#include <array>
+#include "tools/references.h"
+#include "tools/row_faults.h"
+#include "tools/stored_numbers.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A column that names a row of another table.
-struct reference {
-    QStringView table;
-    QStringView column;
-    QStringView target;
-    QStringView target_key;
-    QStringView unless; ///< the rows of which nothing is asked
-};
-
-// Where the screens let 0 stand, it means none. A membership or a right without either side is
-// shown nowhere, so it is a fault.
-constexpr auto references = std::to_array<reference>({
-    {u"cgroup", u"cid", u"customer", u"cid", u"0"},
-    {u"cgroup", u"ccid", u"cusclass", u"ccid", u"0"},
-    {u"sendsms", u"cid", u"customer", u"cid", u"cid IS 0"},
-    {u"gsendsms", u"cid", u"cusclass", u"ccid", u"cid IS 0 OR isall <> 0"},
-    {u"rights", u"userid", u"users", u"userid", u"0"},
-    {u"rights", u"funid", u"Functions", u"FunId", u"0"},
-    {u"operatelog", u"userid", u"users", u"userid", u"userid IS 0"},
-    {u"viewitems", u"ViewNo", u"viewdef", u"ViewNo", u"0"},
-});
 
 /// The numbering is nearly used up from here on, in per cent of all numbers.
 constexpr qint64 nearly_full = 80;
@@ -54,12 +33,19 @@ private:
     template <class Step>
     void attempt(const Step& step);
     void report(const QString& finding) { found_.findings.append(finding); }
-    void report_rows(const QString& what, const QString& table, const QString& condition);
+    /// Puts `what` down with the numbers of the rows that meet the condition, if there are any.
+    void report_rows(const QString& what, QStringView table, const QString& condition,
+                     QStringList& among);
+    void report_rows(const QString& what, QStringView table, const QString& condition) {
+        report_rows(what, table, condition, found_.findings);
+    }
 
     void look_for(const QString& name, const QString& kind);
     void look_at_key(const QString& table, const QString& key);
     void look_at_numbers(const QString& table);
     void look_at_reference(const reference& checked);
+    void look_at_telephone_numbers(const number_column& column);
+    void look_at_operators();
     void look_at_parameters();
     void look_at_view_definitions();
 
@@ -84,12 +70,18 @@ void inspector::attempt(const Step& step) {
     }
 }
 
-void inspector::report_rows(const QString& what, const QString& table, const QString& condition) {
-    const QStringList rows = query_column(
-        database_, u"SELECT rowid FROM %1 WHERE %2 ORDER BY rowid"_s.arg(table, condition));
+void put_down(const QString& what, const QStringList& rows, QStringList& among) {
     if (!rows.isEmpty()) {
-        report(u"%1 in %2 row(s): %3"_s.arg(what).arg(rows.size()).arg(some_of(rows)));
+        among.append(u"%1 in %2 row(s): %3"_s.arg(what).arg(rows.size()).arg(some_of(rows)));
     }
+}
+
+void inspector::report_rows(const QString& what, QStringView table, const QString& condition,
+                            QStringList& among) {
+    put_down(what,
+             query_column(database_,
+                          u"SELECT rowid FROM %1 WHERE %2 ORDER BY rowid"_s.arg(table, condition)),
+             among);
 }
 
 QStringList columns_of(SqliteDatabase& database, const QString& table) {
@@ -153,11 +145,32 @@ void inspector::look_at_numbers(const QString& table) {
 }
 
 void inspector::look_at_reference(const reference& checked) {
-    report_rows(
-        u"%1.%2 points nowhere (%3)"_s.arg(checked.table, checked.column, checked.target),
-        checked.table.toString(),
-        u"NOT (%1) AND NOT EXISTS (SELECT 1 FROM %2 WHERE %2.%3 = %4.%5)"_s.arg(
-            checked.unless, checked.target, checked.target_key, checked.table, checked.column));
+    const bool is_fault = checked.dangling == reference::Dangling::fault;
+    const bool is_leftover = checked.dangling == reference::Dangling::leftover;
+    report_rows(u"%1.%2 points nowhere (%3%4)"_s.arg(checked.table, checked.column, checked.target,
+                                                     is_leftover ? u"; see smsdb tidy"_s : u""_s),
+                checked.table, dangles(checked), is_fault ? found_.findings : found_.notes);
+}
+
+void inspector::look_at_telephone_numbers(const number_column& column) {
+    QStringList mendable;
+    QStringList others;
+    for (const stored_number& number : untidy_numbers(database_, column)) {
+        (number.dialled.isEmpty() ? others : mendable).append(QString::number(number.row));
+    }
+    put_down(u"%1.mobile is not as it is dialled (see smsdb tidy --numbers)"_s.arg(column.table),
+             mendable, found_.notes);
+    put_down(u"%1.mobile is no number that can be dialled"_s.arg(column.table), others,
+             found_.notes);
+}
+
+void inspector::look_at_operators() {
+    if (query_number(
+            database_,
+            u"SELECT count(*) FROM rights NATURAL JOIN users WHERE funid = 1 AND username IS NOT NULL AND password IS NOT NULL"_s) ==
+        0) {
+        report(u"nobody can manage the operators (see smsdb grant)"_s);
+    }
 }
 
 void inspector::look_at_parameters() {
@@ -180,7 +193,6 @@ void inspector::look_at_view_definitions() {
 }
 
 inspection inspector::inspect() {
-    database_.execute_script("BEGIN"); // one moment for all
     for (const QString& fault : integrity_faults(database_)) {
         sound_ = false;
         report(u"damaged: %1"_s.arg(fault));
@@ -204,9 +216,17 @@ inspection inspector::inspect() {
             attempt([&] { look_at_numbers(object.at(0)); });
         }
     }
-    for (const reference& checked : references) {
+    for (const reference& checked : references()) {
         attempt([&] { look_at_reference(checked); });
     }
+    for (const row_fault& fault : row_faults()) {
+        attempt(
+            [&] { report_rows(fault.what.toString(), fault.table, fault.condition.toString()); });
+    }
+    for (const number_column& column : number_columns()) {
+        attempt([&] { look_at_telephone_numbers(column); });
+    }
+    attempt([&] { look_at_operators(); });
     attempt([&] { look_at_parameters(); });
     attempt([&] { look_at_view_definitions(); });
     return found_;
@@ -215,7 +235,21 @@ inspection inspector::inspect() {
 } // namespace
 
 inspection inspect(SqliteDatabase& database) {
-    return inspector(database).inspect();
+    database.execute_script("BEGIN"); // one moment for all
+    const inspection found = inspector(database).inspect();
+    database.execute_script("COMMIT");
+    return found;
+}
+
+QString lines(const inspection& found) {
+    QString text;
+    for (const QString& note : found.notes) {
+        text += u"note: %1\n"_s.arg(note);
+    }
+    for (const QString& finding : found.findings) {
+        text += u"finding: %1\n"_s.arg(finding);
+    }
+    return text;
 }
 
 QStringList integrity_faults(SqliteDatabase& database) {

@@ -23,11 +23,15 @@ struct numbering {
 struct inspection {
     QList<numbering> numberings;
     QStringList findings;
+    QStringList notes; ///< what troubles nobody
 };
 
 /// Looks through the whole database as it is at this moment. Throws failure when it holds no table
 /// of ours, DataError when it cannot be read.
 [[nodiscard]] inspection inspect(SqliteDatabase& database);
+
+/// Notes and findings as they are reported, a line each.
+[[nodiscard]] QString lines(const inspection& found);
 
 /// What the engine finds broken in the file itself, a line each; empty when all is well.
 [[nodiscard]] QStringList integrity_faults(SqliteDatabase& database);

@@ -4,6 +4,7 @@
 #include "platform/data_error.h"
 #include "platform/process_limits.h"
 #include "platform/program_language.h"
+#include "platform/standard_streams.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/texts.h"
@@ -19,10 +20,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto& commands() {
-    static const std::array all{
-        check_command(),   create_command(),           backup_command(),
-        archive_command(), import_customers_command(), export_customers_command(),
-        import_command(),  read_old_command()};
+    static const std::array all{check_command(),
+                                tidy_command(),
+                                create_command(),
+                                backup_command(),
+                                restore_command(),
+                                archive_command(),
+                                renumber_command(),
+                                grant_command(),
+                                import_customers_command(),
+                                export_customers_command(),
+                                import_command(),
+                                read_old_command()};
     return all;
 }
 
@@ -51,7 +60,7 @@ int run(const command& wanted, const QStringList& arguments) {
         throw failure(texts::tr("%1 (see smsdb %2 --help)").arg(parser.errorText(), wanted.name));
     }
     if (operands.size() != wanted.operands || operands.contains(QString())) {
-        throw failure(texts::tr("%1 takes %2 file name(s) (see smsdb %1 --help)")
+        throw failure(texts::tr("%1 takes %2 name(s) (see smsdb %1 --help)")
                           .arg(wanted.name)
                           .arg(wanted.operands));
     }
@@ -86,6 +95,7 @@ int run(QStringList arguments) {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    fill_standard_streams();
     survive_file_size_limit();
     const QCoreApplication application(argc, argv);
     speak_users_language(u"smsdb"_s);

@@ -3,6 +3,8 @@
 
 #include "tools/new_file.h"
 
+#include "platform/ownership.h"
+#include "platform/termination.h"
 #include "tools/command.h"
 
 #include <QFile>
@@ -19,7 +21,10 @@ namespace {
 } // namespace
 
 new_file::new_file(const QString& place, existing there)
-    : place_(place), part_(place + u".part"_s), there_(there), lock_(place + u".lock"_s) {
+    : place_(place),
+      part_(place + u".smsdb-part"_s),
+      there_(there),
+      lock_(place + u".smsdb-lock"_s) {
     const QFileInfo old(place);
     if (there == existing::keep && (old.exists() || old.isSymLink())) {
         throw failure(u"%1: exists already"_s.arg(place));
@@ -32,11 +37,13 @@ new_file::new_file(const QString& place, existing there)
                         ? u"another run is writing it"_s
                         : u"no file can be made in its folder"_s);
     }
+    remove_on_termination(parts() + QStringList(place + u".smsdb-lock"_s));
     remove_parts();
 }
 
 new_file::~new_file() {
     remove_parts();
+    remove_on_termination({});
 }
 
 void new_file::write(const QByteArray& content) {
@@ -62,8 +69,21 @@ void new_file::put_in_place() {
     }
 }
 
+void new_file::take_ownership_of_replaced() {
+    const std::error_code error = copy_ownership(QFileInfo(place_).filesystemFilePath(),
+                                                 QFileInfo(part_).filesystemFilePath());
+    if (error) {
+        fail(place_,
+             u"its owner and permissions cannot be kept: "_s + qt_error_string(error.value()));
+    }
+}
+
+QStringList new_file::parts() const {
+    return {part_, part_ + u"-journal"_s, part_ + u"-wal"_s, part_ + u"-shm"_s};
+}
+
 void new_file::remove_parts() const {
-    for (const QString& suffix : {u""_s, u"-journal"_s, u"-wal"_s, u"-shm"_s}) {
-        QFile::remove(part_ + suffix);
+    for (const QString& part : parts()) {
+        QFile::remove(part);
     }
 }

@@ -7,9 +7,11 @@
 
 #include <QLockFile>
 #include <QString>
+#include <QStringList>
 
-/// A file in the making. It grows beside its place as PLACE.part and appears there whole, on disk
-/// and readable by its owner alone, or not at all. What a killed run left is made anew.
+/// A file in the making. It grows beside its place under another name and appears there whole, on
+/// disk and readable by its owner alone, or not at all. What a killed run left is made anew; one
+/// that is asked to end leaves nothing.
 class new_file {
 public:
     /// Throws failure when there is something at `place` that is to be kept, its folder cannot be
@@ -25,11 +27,16 @@ public:
     /// Writes all of the content. Throws failure.
     void write(const QByteArray& content);
 
+    /// Gives it the owner, group and permissions of what it is to replace. Throws failure.
+    void take_ownership_of_replaced();
+
     /// Makes the content durable and moves it to its place, and that too is on disk on return.
     /// Throws failure, also when something has appeared there that is to be kept.
     void put_in_place();
 
 private:
+    /// The file itself and what the database engine keeps beside it.
+    [[nodiscard]] QStringList parts() const;
     void remove_parts() const;
 
     QString place_;

@@ -27,12 +27,27 @@ private slots:
         QTest::addColumn<QString>("line");
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("answer");
-        const auto finds = [](const char* sql, const QString& found) {
-            QTest::newRow(sql) << QString::fromUtf8(sql) << u"smsdb check FILE"_s << 1 << found;
+        const auto answers = [](const char* sql, const char* line, int status,
+                                const QString& told) {
+            QTest::addRow("%s | %s", sql, line)
+                << QString::fromUtf8(sql) << QString::fromUtf8(line) << status << told;
         };
-        finds("insert into cgroup (cid,ccid) values (7,0)", u"finding: cgroup.ccid points"_s);
-        finds("insert into sendsms (cid) values (0),(7),(null)", u"in 2 row(s): 2, 3\n"_s);
-        finds("insert into gsendsms (cid,isall) values (0,0),(9,-1),(9,0)", u"row(s): 3\n"_s);
+        const auto finds = [&answers](const char* sql, const QString& found) {
+            answers(sql, "smsdb check FILE", found.contains(u"note") ? 0 : 1, found);
+        };
+        finds("insert into cgroup (cid,ccid) values (7,0)", u"note: cgroup.ccid points"_s);
+        finds("insert into sendsms (cid) values (0),(7),(null)",
+              u"note: sendsms.cid points nowhere (customer) in 2 row(s): 2, 3\n"_s);
+        finds("insert into gsendsms (cid,isall) values (0,0),(9,-1),(9,0)",
+              u"note: gsendsms.cid points nowhere (cusclass) in 1 row(s): 3\n"_s);
+        finds("insert into rights (userid,funid) values (1,9)", u"finding: rights.funid points"_s);
+        finds("insert into customer (mobile) values ('+86 138-0013-8000'),('12')",
+              u"(see smsdb tidy --numbers) in 1 row(s): 1\nnote: customer.mobile is no"_s);
+        finds("insert into users (username) values ('a')", u"finding: users.password is Null"_s);
+        finds("insert into users (username,password) values ('a','''')", u"finding: an apostr"_s);
+        finds("insert into customer (mobile,memo) values ('138','o''clock')", u"an apostrophe"_s);
+        finds("update rights set funid=2", u"finding: nobody can manage the operators"_s);
+        finds("update users set password=null", u"finding: nobody can manage the operators"_s);
         finds("delete from viewdef where ViewNo='vusers'", u"in 2 row(s): 40, 41\n"_s);
         finds("update parameters set port=70000", u"parameters.port holds no 16-bit"_s);
         finds("delete from parameters", u"parameters: holds 0 rows"_s);
@@ -43,22 +58,40 @@ private slots:
             << u"select 1"_s
             << u"touch FILE-lease; chmod 400 FILE-lease; smsdb check FILE; s=$?; rm -f FILE-lease; exit $s"_s
             << 1 << u"sms.old.mdb-lease cannot be written: "_s;
-        const QString big =
-            u"insert into sendsms (cid,sms,sendisok,stime) values (0,hex(zeroblob(300000)),-1,'2024/1/1')"_s;
-        QTest::newRow("clean") << big << u"smsdb check FILE"_s << 0 << u"\nno findings\n"_s;
-        const auto refuses = [&big](const char* line, const QString& complaint) {
-            QTest::newRow(line) << big << QString::fromUtf8(line) << 2 << complaint;
+        const auto reads = [&answers](const char* line, int status, const QString& told) {
+            answers("insert into sendsms (cid,sms,sendisok,stime) values "
+                    "(0,hex(zeroblob(300000)),-1,'2024/1/1')",
+                    line, status, told);
         };
-        refuses("smsdb check FILE FILE", u"takes 1 file"_s);
+        reads("smsdb check FILE", 0, u"\nno findings\n"_s);
+        const auto refuses = [&reads](const char* line, const QString& told) {
+            reads(line, 2, told);
+        };
+        refuses("smsdb check FILE FILE", u"takes 1 name"_s);
         refuses("smsdb check DIR/none", u"there is no such file"_s);
         refuses("smsdb check DIR/text", u"is no database"_s);
         refuses("smsdb create DIR/text", u"exists"_s);
-        refuses("smsdb backup FILE FILE --force", u"is the database itself"_s);
+        refuses("smsdb backup FILE FILE", u"exists"_s);
+        refuses("smsdb backup DIR/empty DIR/copy", u"it has no table smsmodels"_s);
         refuses("smsdb backup FILE DIR/full", u"reading or writing failed"_s);
+        refuses("smsdb restore DIR/text FILE", u"/text: is no database"_s);
+        refuses("smsdb restore DIR/empty FILE", u"it has no table smsmodels"_s);
+        refuses("smsdb restore DIR/newer FILE", u"a newer version"_s);
+        refuses("smsdb restore DIR/none FILE", u"there is no such file"_s);
+        refuses("smsdb restore FILE DIR/link", u"is the database itself"_s);
+        refuses("smsdb grant FILE \"o'b\"", u"nobody can log in"_s);
         refuses("smsdb archive FILE --before 2023/02/29", u"expected a date"_s);
         refuses("smsdb archive FILE --before 2024-1-02", u"expected a date"_s);
         refuses("smsdb archive FILE --before 2024-01-02 --to DIR/text", u"exists"_s);
         refuses("smsdb archive FILE --before 2024-01-02 --to DIR/full", u"too large"_s);
+        // Whoever is not told does not have it done.
+        for (const char* line :
+             {"smsdb create DIR/new >/dev/full", "smsdb backup DIR/other DIR/new >/dev/full",
+              "smsdb restore DIR/other DIR/link >/dev/full", "smsdb tidy FILE >/dev/full",
+              "smsdb export-customers FILE DIR/new >/dev/full", "smsdb grant FILE 老板 >/dev/full",
+              "smsdb import-customers DIR/csv FILE >/dev/full", "smsdb renumber FILE >/dev/full"}) {
+            answers("delete from rights", line, 2, u"standard output cannot be written"_s);
+        }
     }
 
     void answers() {
@@ -67,11 +100,17 @@ private slots:
         QFETCH(QString, answer);
         test_database::execute(sql);
         connection_pool::clear(); // or reading the file would drop the locks
-        QCOMPARE(run(u"echo text >DIR/text; md5sum DIR/*"_s), 0);
+        QCOMPARE(
+            run(u"cd DIR; echo text >text; : >empty; ln -s FILE link; smsdb create other >&-; "
+                "cp other newer; printf '\\0\\0\\0\\11' | dd of=newer bs=1 seek=60 conv=notrunc "
+                "2>&-; "
+                "printf '手机\\n138\\n' >csv; (echo 手机,备注; "
+                "yes $(printf %0900d) | head -n 550 | nl -s , -v 200 -w 1) >large; md5sum *"_s),
+            0);
         const QByteArray before = told_;
         QTEST(run(line), "status");
-        QVERIFY2(told_.contains(answer.toUtf8()), told_);
-        QCOMPARE(run(u"md5sum DIR/*"_s), 0);
+        QVERIFY2(told_.contains(answer.toUtf8()) && !told_.contains("added"), told_);
+        QCOMPARE(run(u"cd DIR; md5sum *"_s), 0);
         QCOMPARE(told_, before);
     }
 
@@ -93,10 +132,116 @@ private slots:
         strconn = make_strconn(folder);
         QCOMPARE(content(), expected);
         connection_pool::clear();
-        QCOMPARE(run(u"smsdb backup --force FILE "_s + copy), 0);
-        QCOMPARE(content().last(), u"later"_s);
         QCOMPARE(run(u"rm %1; smsdb create %1"_s.arg(copy)), 0);
         QCOMPARE(content(), expected.first(expected.size() - 1));
+    }
+
+    void restores() {
+        const QString restoring = u"smsdb restore DIR/b DIR/link; stat -Lc '%a %u' DIR/link"_s;
+        run(u"smsdb backup FILE DIR/b; chmod 640 FILE; chown 65534 FILE 2>&-; ln -s FILE DIR/link; "
+            "stat -c '%a %u' FILE"_s);
+        const QByteArray owned = told_.sliced(told_.indexOf('\n'));
+        test_database::execute(u"insert into customer (cname) values ('later')"_s);
+        run(restoring);
+        QVERIFY2(told_.contains("is open in a client"), told_);
+        // As a killed client leaves it.
+        QCOMPARE(run(u"cp FILE DIR/k && cp FILE-wal DIR/k-wal && smsdb restore DIR/b DIR/k && "
+                     "smsdb export-customers DIR/k.before-restore DIR/c && grep later DIR/c"_s),
+                 0);
+        connection_pool::clear();
+        run(restoring);
+        QVERIFY2(told_.endsWith(".before-restore" + owned), told_);
+        QCOMPARE(test_database::value(u"select count(*) from customer"_s).toInt(), 0);
+        connection_pool::clear();
+        QCOMPARE(run(u"cd DIR; smsdb restore FILE.before-restore FILE; echo damage >k; "
+                     "smsdb restore b k; smsdb restore b n; test -L link && "
+                     "cat k.before-restore && ls -A"_s),
+                 0);
+        QVERIFY2(told_.endsWith("damage\nb\nc\nk\nk.before-restore\nlink\nn\nsms.old.mdb\n"
+                                "sms.old.mdb.before-restore\n"),
+                 told_);
+        QCOMPARE(test_database::value(u"select count(*) from customer"_s).toInt(), 1);
+    }
+
+    void leaves_nothing_half_made() { // while nobody reads what it tells
+        const QString asked =
+            u"cd DIR; echo x >n.part; mkfifo p; exec 3<>p; "
+            "dd if=/dev/zero bs=65536 count=1 >&3 2>&-; smsdb create n >&3 & "
+            "until test -e n.smsdb-part; do :; done; kill -%1 $!; wait $!; ls n*"_s;
+        QCOMPARE(run(asked.arg(u"TERM"_s)), 0);
+        QVERIFY2(told_.endsWith("d\nn.part\n"), told_); // Terminated
+        QCOMPARE(run(asked.arg(u"KILL"_s) + u"; test ! -e n && smsdb create n >&- && ls n*"_s), 0);
+        QVERIFY2(told_.endsWith("\nn\nn.part\n"), told_); // what the other left is made anew
+    }
+
+    void reads_where_nothing_can_be_written() {
+        connection_pool::clear();
+        // The superuser writes everywhere, so that power is put aside.
+        QCOMPARE(run(u"cd DIR; mkdir '%4 ?#'; mv FILE '%4 ?#/a'; chmod 555 '%4 ?#'; "
+                     "test $(id -u) = 0 && x='setpriv --bounding-set=-dac_override'; "
+                     "$x smsdb check '%4 ?#/a' && $x smsdb backup '%4 ?#/a' b && "
+                     "$x smsdb export-customers '%4 ?#/a' c && ls -A '%4 ?#'; "
+                     "r=$?; chmod 755 '%4 ?#'; exit $r"_s),
+                 0);
+        QVERIFY2(told_.endsWith("to c\na\n"), told_);
+    }
+
+    void tidies() {
+        for (const QString& row :
+             {u"customer (mobile) values ('+86 138-0013-8000'),('12'),('13900139000')"_s,
+              u"sendsms (mobile,sendisok) values ('138 0013 8000',0),('1-3-8',-1)"_s,
+              u"recvedsms (mobile) values ('8613800138000')"_s, u"cusclass (cname) values ('a')"_s,
+              u"cgroup (cid,ccid) values (1,1),(4,1),(3,8)"_s,
+              u"rights (userid,funid) values (5,1)"_s}) {
+            test_database::execute(u"insert into "_s + row);
+        }
+        const QString all =
+            u"select mobile from customer union all select mobile from sendsms union all select mobile from recvedsms union all select gid from cgroup"_s;
+        const QStringList before = test_database::rows(all);
+        QCOMPARE(run(u"smsdb tidy --numbers --dry-run FILE; smsdb tidy --dry-run FILE"_s), 0);
+        QCOMPARE(test_database::rows(all), before);
+        QCOMPARE(run(u"smsdb tidy FILE; smsdb tidy --numbers FILE; smsdb tidy FILE"_s), 0);
+        QCOMPARE(told_, "cgroup 2: taken out: there is no customer 4\n"
+                        "cgroup 3: taken out: there is no cusclass 8\n"
+                        "rights 3: taken out: there is no users 5\n"
+                        "customer 1: \"+86 138-0013-8000\" becomes 13800138000\n"
+                        "customer 2: \"12\" is no number and stays\n"
+                        "sendsms 1: \"138 0013 8000\" becomes 13800138000\n"
+                        "recvedsms 1: \"8613800138000\" becomes 13800138000\n"
+                        "nothing to tidy\n"_qba);
+        QCOMPARE(test_database::rows(all).join(u' '),
+                 u"13800138000 12 13900139000 13800138000 1-3-8 13800138000 1"_s);
+    }
+
+    void grants() {
+        test_database::execute(u"delete from rights"_s);
+        test_database::execute(u"update users set password='lost'"_s);
+        QCOMPARE(run(u"smsdb grant FILE Valdrine; smsdb grant FILE ' 老板 '; smsdb check FILE"_s),
+                 0);
+        QVERIFY2(told_.contains("WARNING: THE PASSWORD IS EMPTY"), told_);
+        const QString granted =
+            u"select username,password,group_concat(funid,'') from users join rights using (userid) group by userid"_s;
+        QCOMPARE(test_database::rows(granted).join(u' '), u"valdrine||12 老板||12"_s);
+    }
+
+    void renumbers() {
+        for (const QString& rows :
+             {u"sendsms (sms,sendisok) values (hex(zeroblob(100000)),-1),('b',0)"_s,
+              u"recvedsms (sms) values ('a'),('b')"_s, u"gsendsms (sms) values ('a'),('b')"_s,
+              u"cgroup (cid) values (1),(2)"_s, u"operatelog (operation) values ('a'),('b')"_s,
+              u"rights (userid) values (1)"_s}) {
+            test_database::execute(u"insert into "_s + rows);
+            test_database::execute(u"delete from %1 where rowid=1"_s.arg(rows.section(u' ', 0, 0)));
+        }
+        QCOMPARE(run(u"smsdb renumber FILE"_s), 2);
+        connection_pool::clear();
+        QCOMPARE(run(u"smsdb renumber FILE && test $(stat -c %s FILE) -lt 200000"_s), 0);
+        QCOMPARE(told_, "next numbers: sendsms 2, recvedsms 2, gsendsms 2, cgroup 2, rights 3, "
+                        "operatelog 2\n"_qba);
+        test_database::execute(u"insert into rights (userid) values (1)"_s);
+        const QString numbers =
+            u"select smsid,smsrid,gsid,gid,opid,rid from sendsms,recvedsms,gsendsms,cgroup,operatelog,rights order by rid desc"_s;
+        QCOMPARE(test_database::rows(numbers).first(), u"1|1|1|1|1|3"_s);
     }
 
     void archives() {
@@ -111,7 +256,7 @@ private slots:
         connection_pool::clear();
         QCOMPARE(run(archive), 0);
         QVERIFY(told_.contains("time cannot be read, number(s) 3\n"));
-        QVERIFY(told_.contains("next numbers: sendsms 4, recvedsms 2\n"));
+        QVERIFY(told_.contains("next numbers: sendsms 4, recvedsms 2, gsendsms 1, cgroup 1, "));
         QCOMPARE(run(u"cat FILE-before-2024-01-31.csv"_s), 0);
         QCOMPARE(
             told_,

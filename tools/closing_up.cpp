@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tools/closing_up.h"
+
+#include "platform/data_error.h"
+#include "platform/sqlite_database.h"
+#include "tools/command.h"
+#include "tools/console.h"
+#include "tools/query.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct numbered_table {
+    QStringView name;
+    QStringView key;
+};
+
+constexpr auto tables = std::to_array<numbered_table>({{u"sendsms", u"smsid"},
+                                                       {u"recvedsms", u"smsrid"},
+                                                       {u"gsendsms", u"gsid"},
+                                                       {u"cgroup", u"gid"},
+                                                       {u"rights", u"rid"},
+                                                       {u"operatelog", u"opid"}});
+
+} // namespace
+
+void closing_up::keep_to_oneself(SqliteDatabase& database, const QString& file) {
+    database.execute(u"PRAGMA locking_mode=EXCLUSIVE"_s);
+    try {
+        database.execute(u"BEGIN EXCLUSIVE"_s);
+    } catch (const DataError& error) {
+        if (error.kind() == DataError::Kind::locked) {
+            throw failure(
+                u"%1: is open in a client or another program; close it first"_s.arg(file));
+        }
+        throw;
+    }
+    // A file that cannot be written is refused before anything is done.
+    database.execute(u"DELETE FROM sendsms WHERE 0"_s);
+}
+
+QStringList closing_up::close_up(SqliteDatabase& database) {
+    QStringList next;
+    for (const auto& [name, key] : tables) {
+        // Below every key first, so that no new key meets an old one.
+        database.execute(
+            u"UPDATE %1 SET %2 = closed.number - 1000000000000 FROM (SELECT %2 AS old, row_number() OVER (ORDER BY %2) AS number FROM %1) AS closed WHERE %2 = closed.old"_s
+                .arg(name, key));
+        database.execute(u"UPDATE %1 SET %2 = %2 + 1000000000000"_s.arg(name, key));
+        database.execute(
+            u"UPDATE sqlite_sequence SET seq = (SELECT count(*) FROM %1) WHERE name = '%1'"_s.arg(
+                name));
+        next.append(u"%1 %2"_s.arg(name).arg(
+            query_number(database, u"SELECT count(*) + 1 FROM %1"_s.arg(name))));
+    }
+    return next;
+}
+
+void closing_up::shrink(SqliteDatabase& database) {
+    try {
+        database.execute(u"VACUUM"_s);
+        database.fold_log();
+    } catch (const DataError& error) {
+        complain(u"the file stays as large as it is: "_s + error.detail());
+    }
+}

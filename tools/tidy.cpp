@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/bound_statement.h"
+#include "platform/sqlite_database.h"
+#include "tools/command.h"
+#include "tools/console.h"
+#include "tools/query.h"
+#include "tools/references.h"
+#include "tools/stored_numbers.h"
+
+#include <QCommandLineParser>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView help = uR"(Usage: smsdb tidy [--numbers] [--dry-run] FILE
+
+Takes out of the database FILE what deleting leaves behind and no screen shows: rights of operators, and
+memberships of customers or classes, that are not there. Each is told, a line each, before it goes. Also
+while clients are working in FILE. Make a backup first (smsdb backup).
+
+  --numbers   instead puts telephone numbers into the form in which they are dialled: without blanks,
+              hyphens and brackets, with plain digits, without +86, 0086 or 86 before a mobile number. Only
+              then a message goes out right and an answer is known as its customer's. Changed, after both
+              forms are told, are the mobile numbers of customers, of messages that wait to be sent and of
+              messages received. What is no number of 3 to 20 digits then is told and stays.
+  --dry-run   tells what would happen, and changes nothing
+
+Exit status: 0 done, or nothing to do; 2 nothing done.
+)";
+
+/// Takes out what nothing shows any more; returns what that was, a line each.
+QString remove_leftovers(SqliteDatabase& database) {
+    QString told;
+    for (const reference& checked : references()) {
+        if (checked.dangling != reference::Dangling::leftover) {
+            continue;
+        }
+        const QString condition = dangles(checked);
+        for (const QStringList& row :
+             query_rows(database,
+                        u"SELECT rowid, ifnull(%1, 'Null') FROM %2 WHERE %3 ORDER BY rowid"_s.arg(
+                            checked.column, checked.table, condition))) {
+            told += u"%1 %2: taken out: there is no %3 %4\n"_s.arg(checked.table, row.at(0),
+                                                                   checked.target, row.at(1));
+        }
+        database.execute(u"DELETE FROM %1 WHERE %2"_s.arg(checked.table, condition));
+    }
+    return told;
+}
+
+/// Puts every number into the form in which it is dialled; returns what changed, a line each.
+QString mend_numbers(SqliteDatabase& database) {
+    QString told;
+    for (const number_column& column : number_columns()) {
+        bound_statement change(
+            database, u"UPDATE %1 SET mobile = ? WHERE %2 = ?"_s.arg(column.table, column.key));
+        for (const stored_number& number : untidy_numbers(database, column)) {
+            const QString where = u"%1 %2: "_s.arg(column.table).arg(number.row);
+            if (number.dialled.isEmpty()) {
+                told += where + u"%1 is no number and stays\n"_s.arg(shown(number.written));
+            } else {
+                told += where + u"%1 becomes %2\n"_s.arg(shown(number.written), number.dialled);
+                change.run({number.dialled, number.row});
+            }
+        }
+    }
+    return told;
+}
+
+int run(const QCommandLineParser& arguments) {
+    const QString file = arguments.positionalArguments().first();
+    const bool is_trial = arguments.isSet(u"dry-run"_s);
+    SqliteDatabase database(file);
+    database.execute(u"BEGIN IMMEDIATE"_s);
+    const QString told =
+        arguments.isSet(u"numbers"_s) ? mend_numbers(database) : remove_leftovers(database);
+    database.write_ahead();
+    const QString head = is_trial ? u"dry run, nothing is changed:\n"_s : QString();
+    conclude(head + (told.isEmpty() ? u"nothing to tidy\n"_s : told),
+             [&] { database.execute(is_trial ? u"ROLLBACK"_s : u"COMMIT"_s); });
+    return exit_status::clean;
+}
+
+} // namespace
+
+command tidy_command() {
+    return {u"tidy"_s,
+            u"take out what deleting leaves, or mend numbers"_s,
+            help,
+            1,
+            {QCommandLineOption(u"numbers"_s), QCommandLineOption(u"dry-run"_s)},
+            run};
+}
