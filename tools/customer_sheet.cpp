@@ -3,10 +3,12 @@
 
 #include "tools/customer_sheet.h"
 
+#include "data/dialled_number.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/sheet.h"
 
+#include <QFile>
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
@@ -42,14 +44,19 @@ QString unmarked(const QString& value) {
 const QHash<QString, QStringList>& other_headings() {
     static const QHash<QString, QStringList> headings{
         {u"cname"_s,
-         {u"姓名"_s, u"名称"_s, u"名字"_s, u"客户"_s, u"客户姓名"_s, u"联系人"_s, u"name"_s}},
+         {u"姓名"_s, u"名称"_s, u"名字"_s, u"客户"_s, u"客户姓名"_s, u"联系人"_s, u"name"_s,
+          u"名稱"_s, u"客戶"_s, u"客戶名稱"_s, u"客戶姓名"_s, u"聯絡人"_s, u"聯繫人"_s}},
         {u"mobile"_s,
-         {u"手机号"_s, u"手机号码"_s, u"移动电话"_s, u"mobilephone"_s, u"cellphone"_s}},
-        {u"sex"_s, {u"gender"_s}},
+         {u"手机号"_s, u"手机号码"_s, u"移动电话"_s, u"mobilephone"_s, u"cellphone"_s, u"手機"_s,
+          u"手機號"_s, u"手機號碼"_s, u"行動電話"_s, u"移動電話"_s}},
+        {u"sex"_s, {u"gender"_s, u"性別"_s}},
         {u"birth"_s, {u"出生日期"_s, u"出生年月"_s, u"birthday"_s, u"dateofbirth"_s}},
         {u"phone"_s,
-         {u"固定电话"_s, u"座机"_s, u"联系电话"_s, u"电话号码"_s, u"telephone"_s, u"tel"_s}},
-        {u"memo"_s, {u"备注说明"_s, u"说明"_s, u"note"_s, u"notes"_s, u"remark"_s, u"remarks"_s}},
+         {u"固定电话"_s, u"座机"_s, u"联系电话"_s, u"电话号码"_s, u"telephone"_s, u"tel"_s,
+          u"電話"_s, u"固定電話"_s, u"座機"_s, u"聯絡電話"_s, u"聯繫電話"_s, u"電話號碼"_s}},
+        {u"memo"_s,
+         {u"备注说明"_s, u"说明"_s, u"note"_s, u"notes"_s, u"remark"_s, u"remarks"_s, u"備註"_s,
+          u"備注"_s, u"說明"_s, u"備註說明"_s}},
     };
     return headings;
 }
@@ -78,8 +85,8 @@ private:
     void remark(const sheet_line& line, const QString& told);
     /// Tells of values that trouble the client, and takes out line breaks.
     void look_over(const sheet_line& line, customer_line& customer);
-    /// Why a customer with this mobile number cannot be taken; empty when it can.
-    [[nodiscard]] static QString objection(const QString& mobile);
+    /// Why a customer whose mobile number cannot be dialled is not taken.
+    [[nodiscard]] static QString objection(const QString& written);
 
     QStringList columns_;     ///< what each field is; empty for one that is not used
     QSet<qsizetype> unnamed_; ///< those without a heading in which no value has been seen yet
@@ -102,8 +109,8 @@ customer_reader::customer_reader(const QString& path, const QStringList& heading
     }
     if (!columns_.contains(u"mobile"_s)) {
         throw failure(
-            u"%1: no heading names the mobile number (see smsdb import-customers --help)"_s.arg(
-                path));
+            u"%1: no heading names the mobile number (see smsdb import-customers --help): %2"_s.arg(
+                path, shown(headings.join(u' '))));
     }
 }
 
@@ -111,28 +118,18 @@ void customer_reader::remark(const sheet_line& line, const QString& told) {
     sheet_.remarks.append(u"line %1: %2"_s.arg(line.number).arg(told));
 }
 
-QString customer_reader::objection(const QString& mobile) {
+QString customer_reader::objection(const QString& written) {
     static const QRegularExpression rounded(uR"(^[0-9]([.,][0-9]+)?[eE][+]?[0-9]+$)"_s);
-    static const QRegularExpression digit(u"[0-9]"_s);
-    if (!mobile.contains(digit)) {
-        return mobile.isEmpty() ? u"no mobile number"_s
-                                : u"no mobile number but %1"_s.arg(shown(mobile));
+    if (written.isEmpty()) {
+        return u"no mobile number"_s;
     }
-    if (mobile.contains(u'\'')) { // it would make every message to all customers fail
-        return u"an apostrophe in the mobile number %1"_s.arg(shown(mobile));
-    }
-    return rounded.match(mobile).hasMatch()
+    return rounded.match(written).hasMatch()
                ? u"the spreadsheet has rounded the mobile number to %1; make its column text"_s.arg(
-                     shown(mobile))
-               : QString();
+                     shown(written))
+               : u"no mobile number of 3 to 20 digits but %1"_s.arg(shown(written));
 }
 
 void customer_reader::look_over(const sheet_line& line, customer_line& customer) {
-    static const QRegularExpression dialled(uR"(^\+?[0-9]+$)"_s);
-    if (const QString mobile = customer.values.value(u"mobile"_s);
-        !dialled.match(mobile_key(mobile)).hasMatch()) {
-        remark(line, u"more than digits in the mobile number %1"_s.arg(shown(mobile)));
-    }
     static const QRegularExpression line_break(u"[\\r\\n]"_s);
     for (auto value = customer.values.begin(); value != customer.values.end(); ++value) {
         if (value->contains(u'\'')) {
@@ -163,11 +160,13 @@ void customer_reader::take(const sheet_line& line) {
             customer.values.insert(column, value);
         }
     }
-    const QString reason = objection(customer.values.value(u"mobile"_s));
-    if (!reason.isEmpty()) {
-        remark(line, u"left out: "_s + reason);
+    const QString written = customer.values.value(u"mobile"_s);
+    const QString dialled = dialled_number(written);
+    if (dialled.isEmpty()) {
+        remark(line, u"left out: "_s + objection(written));
         return;
     }
+    customer.values.insert(u"mobile"_s, dialled);
     look_over(line, customer);
     sheet_.customers.append(customer);
 }
@@ -181,17 +180,21 @@ const QList<std::pair<QString, QString>>& customer_columns() {
     return columns;
 }
 
-QString mobile_key(const QString& mobile) {
-    static const QRegularExpression grouping(u"[\\s()-]"_s);
-    static const QRegularExpression country(u"^(\\+|00)?86(?=1[0-9]{10}$)"_s);
-    return plain(mobile).remove(grouping).remove(country);
-}
-
-customer_sheet read_customers(const QString& path) {
-    QList<sheet_line> lines = read_sheet(path);
+customer_sheet read_customers(const QString& path, const QString& charset) {
+    constexpr qint64 largest = 0x4000000; // no list of 32,767 customers comes near
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw failure(u"%1: cannot be opened: %2"_s.arg(path, file.errorString()));
+    }
+    if (file.size() > largest) {
+        throw failure(u"%1: is too large for a list of customers"_s.arg(path));
+    }
+    const auto [lines, is_guessed] = read_sheet(file.read(largest), path, charset);
     customer_reader reader(path, lines.value(0).fields);
     for (const sheet_line& line : lines.sliced(qMin<qsizetype>(1, lines.size()))) {
         reader.take(line);
     }
-    return reader.sheet();
+    customer_sheet read = reader.sheet();
+    read.is_guessed = is_guessed;
+    return read;
 }

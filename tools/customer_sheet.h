@@ -10,21 +10,20 @@
 /// What a customer's line of a spreadsheet says.
 struct customer_line {
     qint64 number = 0;             ///< of the line in its file
-    QMap<QString, QString> values; ///< by column of the table `customer`; none for an empty field
+    QMap<QString, QString> values; ///< by column of the table `customer`; none for an empty field;
+                                   ///< the mobile number as it is dialled
 };
 
 /// The customers in a spreadsheet, and what there is to tell about it.
 struct customer_sheet {
     QList<customer_line> customers;
-    QStringList remarks; ///< lines and columns left out, and values that trouble the client
+    QStringList remarks;     ///< lines and columns left out, and values that trouble the client
+    bool is_guessed = false; ///< as of a sheet
 };
 
 /// The columns of `customer` that a spreadsheet holds, and the headings that it is written with.
 [[nodiscard]] const QList<std::pair<QString, QString>>& customer_columns();
 
-/// Two numbers of one telephone have one key, however they are grouped.
-[[nodiscard]] QString mobile_key(const QString& mobile);
-
-/// Reads customers from a file as `read_sheet` does. Throws failure also when no heading names the
-/// mobile number.
-[[nodiscard]] customer_sheet read_customers(const QString& path);
+/// Reads customers from a file in `charset` as `read_sheet` does. Throws failure also when no
+/// heading names the mobile number.
+[[nodiscard]] customer_sheet read_customers(const QString& path, const QString& charset);

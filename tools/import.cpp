@@ -6,6 +6,7 @@
 #include "platform/sqlite_database.h"
 #include "tools/command.h"
 #include "tools/console.h"
+#include "tools/inspection.h"
 #include "tools/losses.h"
 #include "tools/new_file.h"
 #include "tools/old_records.h"
@@ -15,7 +16,6 @@
 
 #include <QCommandLineParser>
 #include <QMap>
-#include <QStringDecoder>
 
 #include <algorithm>
 #include <optional>
@@ -43,12 +43,15 @@ are counted as they stand in the file):
   - a group's member or a right whose numbers do not fit is left out
   - any other number that does not fit is carried as 0, a date that cannot be read as empty
   - a message without a readable mark of having been sent counts as sent
+  - a column of a list that shows passwords is left out
   - tables and columns that only one of the two systems has are named
-A text with an apostrophe is carried as it is, though the client refuses to save one.
+Then comes what smsdb check finds in NEW; a text with an apostrophe is carried as it is, for one.
 
-A damaged file is refused as a whole: let Access compact and repair it, or use an older copy.
+A file in which rows or tables are damaged is refused as a whole: let Access compact and repair it, or use
+an older copy. Where a single text is damaged, the row is carried without it, and that is reported: an
+older copy may still have it. What was changed within a text cannot be noticed.
 
-Exit status: 0 all carried; 1 made, with losses; 2 not made.
+Exit status: 0 all carried, and no findings; 1 made, with losses or findings; 2 not made.
 )";
 
 /// The import of one old database into a fresh one.
@@ -182,12 +185,6 @@ QString importer::report() const {
     return text;
 }
 
-void refuse_charset(const QString& charset) {
-    if (!QStringDecoder(charset.toLatin1().constData()).isValid()) {
-        throw failure(u"--charset %1: unknown (see smsdb import --help)"_s.arg(charset));
-    }
-}
-
 int run(const QCommandLineParser& arguments) {
     const QString old = arguments.positionalArguments().at(0);
     const QString place = arguments.positionalArguments().at(1);
@@ -202,17 +199,15 @@ int run(const QCommandLineParser& arguments) {
         old_records records(old, charset);
         importer importing(database);
         importing.run(records);
-        report = importing.report();
-        is_whole = importing.lost().isEmpty();
+        const inspection found = inspect(database);
+        report = importing.report() + lines(found);
+        is_whole = importing.lost().isEmpty() && found.findings.isEmpty();
         // Then it needs no log beside it until a client opens it.
         database.execute(u"PRAGMA journal_mode=DELETE"_s);
     } catch (const DataError& error) {
         throw failure(describe(error, place));
     }
-    print(report);
-    flush_output();
-    made.put_in_place();
-    print(u"imported %1 to %2\n"_s.arg(old, place));
+    conclude(report + u"imported %1 to %2\n"_s.arg(old, place), [&made] { made.put_in_place(); });
     return is_whole ? exit_status::clean : exit_status::findings;
 }
 

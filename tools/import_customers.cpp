@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "data/dialled_number.h"
 #include "platform/bound_statement.h"
 #include "platform/data_error.h"
 #include "platform/sqlite_database.h"
@@ -21,7 +22,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QStringView help =
-    uR"(Usage: smsdb import-customers [--dry-run] [--class NAME] [--duplicates WAY] CUSTOMERS.csv FILE
+    uR"(Usage: smsdb import-customers [--dry-run] [--class NAME] [--duplicates WAY] [--charset NAME]
+                              CUSTOMERS.csv FILE
 
 Puts the customers of a spreadsheet into the database FILE, all of them at once, also while clients are
 working in it. Make a backup first (smsdb backup).
@@ -32,18 +34,21 @@ semicolons or tabs. Its first line names the columns, in any order; only the mob
   客户名称 姓名 联系人 name      手机 手机号 手机号码 mobile     性别 sex gender
   生日 出生日期 birth birthday   电话 座机 联系电话 phone tel    备注 说明 memo notes
 
+or the same in traditional characters. A mobile number is stored as it is dialled: without blanks, hyphens
+and brackets, with plain digits, without +86, 0086 or 86 before it; another country's keeps its +.
+
   --dry-run          tells what would happen, and changes nothing
   --class NAME       puts the customers that are added or updated into this class; makes it if there is none
   --duplicates WAY   what becomes of a mobile number that a customer has already, or an earlier line:
-                     skip it (the default), update that customer (empty fields leave what is there; of
-                     several with that number the first), or add one more. Blanks and hyphens in the
-                     number make no difference, nor does +86 before it; wide digits are carried
-                     as plain ones.
+                     skip it (the default), update that customer (empty fields leave what is there, and the
+                     number stays as it is; of several with that number the first), or add one more. It is
+                     the same number however it is written.
+  --charset NAME     what CUSTOMERS.csv is written in, such as Big5 or ISO-8859-1. What is neither UTF-8 nor
+                     UTF-16 is taken for GB18030 otherwise, and that is told.
 
-Reported, a line each: lines left out for want of a mobile number, columns not used, duplicates, mobile
-numbers that hold more than digits, and texts with an apostrophe. The client cannot save a customer with an
-apostrophe until it is taken out; a mobile number with one is left out, because no message to a group with
-it could be sent. An apostrophe at the very beginning of a field is the mark of a text and does not count,
+Reported, a line each: lines left out because their mobile number is none of 3 to 20 digits, columns not
+used, duplicates, and texts with an apostrophe. The client cannot save a customer with an apostrophe until
+it is taken out. An apostrophe at the very beginning of a field is the mark of a text and does not count,
 nor does ="…" around one.
 
 Exit status: 0 every line is in; 1 done, with a report; 2 nothing done.
@@ -66,13 +71,14 @@ private:
     void put_into_class(qint64 cid);
     /// The number that the row just inserted has got. Throws failure when the screens cannot hold
     /// it.
-    [[nodiscard]] qint64 given_number(const QString& table) const;
+    [[nodiscard]] qint64 given_number(const QString& table);
 
     SqliteDatabase& database_;
     duplicates way_;
-    qint64 class_ = 0;     ///< 0 for none
-    QSet<qint64> members_; ///< the customers in that class
-    QHash<QString, qint64> by_mobile_;
+    qint64 class_ = 0;                 ///< 0 for none
+    QSet<qint64> members_;             ///< the customers in that class
+    QHash<QString, qint64> by_mobile_; ///< as it is dialled
+    QHash<QString, qint64> given_;     ///< how many numbers of each table
     QStringList remarks_;
     qint64 added_ = 0;
     qint64 updated_ = 0;
@@ -84,7 +90,7 @@ customer_importer::customer_importer(SqliteDatabase& database, duplicates way,
     : database_(database), way_(way) {
     for (const QStringList& row : query_rows(
              database, u"SELECT mobile, cid FROM customer WHERE mobile > '' ORDER BY cid DESC"_s)) {
-        by_mobile_.insert(mobile_key(row.at(0)), row.at(1).toLongLong());
+        by_mobile_.insert(dialled_number(row.at(0)), row.at(1).toLongLong());
     }
     if (into_class.isEmpty()) {
         return;
@@ -102,13 +108,16 @@ customer_importer::customer_importer(SqliteDatabase& database, duplicates way,
     }
 }
 
-qint64 customer_importer::given_number(const QString& table) const {
+qint64 customer_importer::given_number(const QString& table) {
     const qint64 number = database_.last_insert_rowid();
     if (number > last_number) {
-        throw failure(u"the numbers of %1 run out: there are no more than %2; nothing is imported"_s
-                          .arg(table)
-                          .arg(last_number));
+        throw failure(
+            u"the numbers of %1 run out at %2: no more than %3 new one(s) fit; nothing is imported"_s
+                .arg(table)
+                .arg(last_number)
+                .arg(given_.value(table)));
     }
+    ++given_[table];
     return number;
 }
 
@@ -130,12 +139,16 @@ void customer_importer::update(qint64 cid, const customer_line& line) {
     QStringList changes;
     QVariantList values;
     for (auto value = line.values.cbegin(); value != line.values.cend(); ++value) {
-        changes.append(value.key() + u"=?"_s);
-        values.append(*value);
+        if (value.key() != u"mobile") { // the same number, as somebody has written it
+            changes.append(value.key() + u"=?"_s);
+            values.append(*value);
+        }
     }
     values.append(cid);
-    bound_statement(database_, u"UPDATE customer SET %1 WHERE cid=?"_s.arg(changes.join(u',')))
-        .run(values);
+    if (!changes.isEmpty()) {
+        bound_statement(database_, u"UPDATE customer SET %1 WHERE cid=?"_s.arg(changes.join(u',')))
+            .run(values);
+    }
     ++updated_;
 }
 
@@ -150,7 +163,7 @@ void customer_importer::put_into_class(qint64 cid) {
 
 void customer_importer::take(const customer_line& line) {
     const QString mobile = line.values.value(u"mobile"_s);
-    const qint64 known = by_mobile_.value(mobile_key(mobile));
+    const qint64 known = by_mobile_.value(mobile);
     if (known != 0) {
         const QString done = way_ == duplicates::skip     ? u"skipped"_s
                              : way_ == duplicates::update ? u"updated"_s
@@ -168,7 +181,7 @@ void customer_importer::take(const customer_line& line) {
     } else {
         cid = add(line);
     }
-    by_mobile_.insert(mobile_key(mobile), known != 0 ? known : cid);
+    by_mobile_.insert(mobile, known != 0 ? known : cid);
     put_into_class(cid);
 }
 
@@ -214,7 +227,9 @@ int run(const QCommandLineParser& arguments) {
     const bool is_trial = arguments.isSet(u"dry-run"_s);
     const duplicates way = way_of(arguments.value(u"duplicates"_s));
     const QString into_class = class_of(arguments);
-    const customer_sheet sheet = read_customers(arguments.positionalArguments().at(0));
+    const QString charset = arguments.value(u"charset"_s);
+    refuse_charset(charset);
+    const customer_sheet sheet = read_customers(arguments.positionalArguments().at(0), charset);
     try {
         const std::unique_ptr<SqliteDatabase> database = opened(file, is_trial);
         database->execute(u"BEGIN IMMEDIATE"_s);
@@ -223,12 +238,13 @@ int run(const QCommandLineParser& arguments) {
             importing.take(line);
         }
         const QStringList remarks = sheet.remarks + importing.remarks();
+        QString told = sheet.is_guessed ? u"taken for GB18030 (see --charset)\n"_s : QString();
         for (const QString& remark : remarks) {
-            print(remark + u'\n');
+            told += remark + u'\n';
         }
-        print((is_trial ? u"dry run, nothing is changed: "_s : QString()) + importing.summary());
-        flush_output();
-        database->execute(u"COMMIT"_s);
+        told += (is_trial ? u"dry run, nothing is changed: "_s : QString()) + importing.summary();
+        database->write_ahead();
+        conclude(told, [&database] { database->execute(u"COMMIT"_s); });
         return remarks.isEmpty() ? exit_status::clean : exit_status::findings;
     } catch (const DataError& error) {
         throw failure(describe(error, file));
@@ -243,6 +259,7 @@ command import_customers_command() {
             help,
             2,
             {QCommandLineOption(u"dry-run"_s), QCommandLineOption(u"class"_s, {}, u"name"_s),
-             QCommandLineOption(u"duplicates"_s, {}, u"way"_s, u"skip"_s)},
+             QCommandLineOption(u"duplicates"_s, {}, u"way"_s, u"skip"_s),
+             QCommandLineOption(u"charset"_s, {}, u"name"_s)},
             run};
 }

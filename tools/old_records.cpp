@@ -12,6 +12,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -48,19 +49,25 @@ void old_records::refuse(const QString& reason) const {
 }
 
 QJsonArray old_records::next_line() {
-    QByteArray line;
-    while (!line.endsWith('\n')) {
-        if (!reader_.canReadLine() && reader_.bytesAvailable() == 0 &&
-            !reader_.waitForReadyRead(-1)) {
+    // All that is there is taken at once; a line is a small part of it, or in the making.
+    qsizetype end = pending_.indexOf('\n', taken_);
+    while (end < 0) {
+        const qsizetype seen = pending_.size() - taken_;
+        pending_.remove(0, std::exchange(taken_, 0));
+        if (seen >= longest_line) {
+            refuse(u"is damaged: reading it gives no sense"_s);
+        }
+        if (reader_.bytesAvailable() == 0 && !reader_.waitForReadyRead(-1)) {
             refuse(u"is damaged: reading it came to no good end"_s);
         }
-        line += reader_.readLine(longest_line);
-        if (line.size() >= longest_line) {
-            break;
-        }
+        pending_ += reader_.readAll();
+        end = pending_.indexOf('\n', seen);
     }
+    const QByteArrayView line = QByteArrayView(pending_).sliced(taken_, end - taken_);
+    taken_ = end + 1;
     allowance_ -= line.size();
-    QJsonArray fields = QJsonDocument::fromJson(line).array();
+    QJsonArray fields =
+        QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size())).array();
     if (fields.isEmpty() || allowance_ < 0) {
         refuse(u"is damaged: reading it gives no sense"_s);
     }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QJsonArray>
 #include <QProcess>
 #include <QString>
@@ -35,5 +36,7 @@ private:
     QString path_;
     qint64 allowance_; ///< how many bytes may still come
     record current_;
+    QByteArray pending_;  ///< what has come from the reader
+    qsizetype taken_ = 0; ///< how much of it has been used
     QProcess reader_;
 };

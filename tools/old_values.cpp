@@ -15,14 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Whatever the type was, as a text.
-QString text_of(const QJsonValue& value) {
-    if (value.isBool()) {
-        return value.toBool() ? u"-1"_s : u"0"_s;
-    }
-    return value.isDouble() ? QString::number(value.toDouble(), 'g', 15) : value.toString();
-}
-
 /// The ways in which a Chinese desktop writes a moment, as the ways that this system reads.
 std::optional<wall_time> read_free_moment(const QString& written) {
     constexpr int half_a_day = 43200;
@@ -97,13 +89,22 @@ content content_of(const QString& column, const QString& type) {
     return type == u"INTEGER" ? content::number : content::text;
 }
 
+QString text_of(const QJsonValue& value) {
+    if (value.isBool()) {
+        return value.toBool() ? u"-1"_s : u"0"_s;
+    }
+    return value.isDouble() ? QString::number(value.toDouble(), 'g', 15) : value.toString();
+}
+
 carried carry(const QJsonValue& value, content wanted) {
     if (value.isNull()) {
         return {};
     }
     const bool takes_numbers = wanted != content::moment && wanted != content::text;
     if (value.isObject()) {
-        return {takes_numbers ? QVariant(0) : QVariant(), u"cannot be read"_s};
+        return {takes_numbers ? QVariant(0) : QVariant(),
+                wanted == content::text ? u"is damaged there, an older copy may still have it"_s
+                                        : u"cannot be read"_s};
     }
     switch (wanted) {
     case content::number:

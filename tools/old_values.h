@@ -25,6 +25,9 @@ struct carried {
     QString fault; ///< why `value` is not all of the old one; empty when it is
 };
 
+/// A value as a text, whatever its type was there.
+[[nodiscard]] QString text_of(const QJsonValue& value);
+
 /// Null stays Null; what cannot be carried becomes 0, or Null where the column takes a moment or a
 /// text. An empty object stands for a value that could not be read.
 [[nodiscard]] carried carry(const QJsonValue& value, content wanted);

@@ -37,11 +37,15 @@ void old_views::make_waiting_places(SqliteDatabase& database) {
 
 void old_views::put_in_place(SqliteDatabase& database, losses& lost) {
     database.execute(
+        u"CREATE TEMP TABLE useless_viewitems AS SELECT rowid AS number, ViewNo AS view, 'shows passwords, which no list does' AS reason FROM old_viewitems WHERE trim(keyword) = 'password' COLLATE NOCASE"_s);
+    database.execute(
+        u"DELETE FROM old_viewitems WHERE rowid IN (SELECT number FROM useless_viewitems)"_s);
+    database.execute(
         u"CREATE TEMP TABLE useless_viewdef AS SELECT rowid AS number, ViewNo AS view, CASE WHEN NOT EXISTS (SELECT 1 FROM viewdef WHERE ViewNo = d.ViewNo) THEN 'is no list of this system' WHEN NOT EXISTS (SELECT 1 FROM old_viewitems i WHERE i.ViewNo = d.ViewNo COLLATE NOCASE) THEN 'has no columns; the delivered definition stays' WHEN EXISTS (SELECT 1 FROM old_viewdef e WHERE e.ViewNo = d.ViewNo COLLATE NOCASE AND e.rowid < d.rowid) THEN 'is defined already' END AS reason FROM old_viewdef d WHERE reason IS NOT NULL"_s);
     database.execute(
         u"DELETE FROM old_viewdef WHERE rowid IN (SELECT number FROM useless_viewdef)"_s);
     database.execute(
-        u"CREATE TEMP TABLE useless_viewitems AS SELECT rowid AS number, ViewNo AS view, 'its definition is not carried' AS reason FROM old_viewitems i WHERE NOT EXISTS (SELECT 1 FROM old_viewdef d WHERE d.ViewNo = i.ViewNo COLLATE NOCASE)"_s);
+        u"INSERT INTO useless_viewitems SELECT rowid, ViewNo, 'its definition is not carried' FROM old_viewitems i WHERE NOT EXISTS (SELECT 1 FROM old_viewdef d WHERE d.ViewNo = i.ViewNo COLLATE NOCASE)"_s);
     database.execute(
         u"DELETE FROM old_viewitems WHERE rowid IN (SELECT number FROM useless_viewitems)"_s);
     for (const QString& table : tables()) {

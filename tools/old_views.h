@@ -22,8 +22,8 @@ namespace old_views {
 void make_waiting_places(SqliteDatabase& database);
 
 /// Puts those definitions in the delivered ones' place that define a list of this system and have
-/// a column at least; the others are lost. How many rows of `table` are then the old ones' is told
-/// by `carried_rows`.
+/// a column at least; the others are lost, and so is a column of passwords. How many rows of
+/// `table` are then the old ones' is told by `carried_rows`.
 void put_in_place(SqliteDatabase& database, losses& lost);
 
 /// After put_in_place: how many rows of `table` come from the old database.

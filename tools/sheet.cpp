@@ -5,7 +5,6 @@
 
 #include "tools/command.h"
 
-#include <QFile>
 #include <QRegularExpression>
 #include <QStringDecoder>
 
@@ -52,46 +51,74 @@ qint64 line_of_other_encoding(const QByteArray& content) {
     return others <= in_utf8 * many ? first_other : 0;
 }
 
-/// The text of a file. Throws failure when it is none.
-QString text_of(const QString& path, const QByteArray& content) {
+/// The text of a file, and whether its charset had to be guessed. Throws failure when it is none.
+std::pair<QString, bool> text_of(const QByteArray& content, const QString& path,
+                                 const QString& charset) {
+    constexpr auto whole = QStringDecoder::Flag::Stateless;
     const auto marked = QStringConverter::encodingForData(content);
     std::optional<QString> text =
-        marked ? decoded(QStringDecoder(*marked, QStringDecoder::Flag::Stateless), content)
-               : from_utf8(content);
-    const qint64 line = text ? 0 : line_of_other_encoding(content);
+        marked ? decoded(QStringDecoder(*marked, whole), content)
+        : !charset.isEmpty()
+            ? decoded(QStringDecoder(charset.toLatin1().constData(), whole), content)
+            : from_utf8(content);
+    const bool is_known = text || marked || !charset.isEmpty();
+    const qint64 line = is_known ? 0 : line_of_other_encoding(content);
     if (line != 0) {
         throw failure(
             u"%1: line %2 is not in UTF-8 as others are; save the file anew, all in one encoding"_s
                 .arg(path, QString::number(line)));
     }
-    if (!text && !marked) {
-        text = decoded(QStringDecoder("GB18030", QStringDecoder::Flag::Stateless), content);
+    if (!is_known) {
+        text = decoded(QStringDecoder("GB18030", whole), content);
     }
     if (!text || text->contains(QChar::Null)) {
-        throw failure(u"%1: is no text in UTF-8, UTF-16 or GB18030; save it as CSV"_s.arg(path));
+        throw failure(u"%1: is no text in %2; save it as CSV"_s.arg(
+            path, charset.isEmpty() ? u"UTF-8, UTF-16 or GB18030"_s : charset));
     }
-    return *text;
+    return {*text, !is_known};
 }
 
-/// Some name the separator before the first line, and write a number as a formula so that it stays
-/// a text.
-QString without_hints(QString text) {
+/// Some programs name the separator before the first line.
+QString without_hint(QString text) {
     static const QRegularExpression separator(u"^sep=[,;\\t](?=[\\r\\n])"_s,
                                               QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression formula(
-        uR"re((^|[,;\t\r\n])="([^"\r\n]*)"(?=[,;\t\r\n]|$))re"_s);
-    return text.remove(separator).replace(formula, uR"(\1"\2")"_s);
+    return text.remove(separator);
 }
 
-unsigned char separator_of(const QString& text) {
+/// Some programs write a number as a formula, ="…", so that it stays a text. The sign of equality
+/// goes where such a field begins; what stands between quotation marks is left alone.
+QString without_formulas(const QString& text, char separator) {
+    const QRegularExpression formula(
+        u"=\"[^\"\\r\\n]*\"(?=[\\r\\n\\x%1]|$)"_s.arg(int{separator}, 2, 16, QChar(u'0')));
+    QString plain;
+    plain.reserve(text.size());
+    bool is_quoted = false;
+    bool begins_field = true;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const QChar c = text.at(at);
+        if (begins_field && c == u'=' &&
+            formula
+                .match(text, at, QRegularExpression::NormalMatch,
+                       QRegularExpression::AnchorAtOffsetMatchOption)
+                .hasMatch()) {
+            begins_field = false;
+            continue;
+        }
+        is_quoted = is_quoted != (c == u'"');
+        begins_field = !is_quoted && (c == QLatin1Char(separator) || c == u'\n' || c == u'\r');
+        plain += c;
+    }
+    return plain;
+}
+
+char separator_of(const QString& text) {
     static const QRegularExpression line_end(u"[\\r\\n]"_s);
     const QString first_line = text.trimmed().section(line_end, 0, 0);
     const auto rarer = [&first_line](QChar a, QChar b) {
         return first_line.count(a) < first_line.count(b);
     };
-    const auto separators = {u',', u';', u'\t'};
-    return static_cast<unsigned char>(
-        *std::max_element(separators.begin(), separators.end(), rarer));
+    const auto separators = {QChar(u','), QChar(u';'), QChar(u'\t')};
+    return std::max_element(separators.begin(), separators.end(), rarer)->toLatin1();
 }
 
 /// What the parser finds, put together into lines.
@@ -128,31 +155,25 @@ int no_blank(unsigned char /*character*/) {
 
 } // namespace
 
-QList<sheet_line> read_sheet(const QString& path) {
-    constexpr qint64 largest = 0x4000000; // no list of 32,767 customers comes near
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw failure(u"%1: cannot be opened: %2"_s.arg(path, file.errorString()));
-    }
-    if (file.size() > largest) {
-        throw failure(u"%1: is too large for a list of customers"_s.arg(path));
-    }
-    const QString text = without_hints(text_of(path, file.read(largest)));
-    if (text.trimmed().isEmpty()) {
+sheet read_sheet(const QByteArray& content, const QString& path, const QString& charset) {
+    const auto [whole, is_guessed] = text_of(content, path, charset);
+    const QString hinted = without_hint(whole);
+    if (hinted.trimmed().isEmpty()) {
         throw failure(u"%1: is empty"_s.arg(path));
     }
+    const char separator = separator_of(hinted);
+    const QByteArray bytes = without_formulas(hinted, separator).toUtf8();
     csv_parser parser{};
     csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI | CSV_REPALL_NL);
     const std::unique_ptr<csv_parser, void (*)(csv_parser*)> freed(&parser, csv_free);
-    csv_set_delim(&parser, separator_of(text));
+    csv_set_delim(&parser, static_cast<unsigned char>(separator));
     csv_set_space_func(&parser, no_blank);
-    const auto on_field = [](void* bytes, size_t length, void* into) {
+    const auto on_field = [](void* field, size_t length, void* into) {
         static_cast<collector*>(into)->take_field(
-            {static_cast<const char*>(bytes), static_cast<qsizetype>(length)});
+            {static_cast<const char*>(field), static_cast<qsizetype>(length)});
     };
     const auto on_end = [](int end, void* into) { static_cast<collector*>(into)->take_end(end); };
     collector found;
-    const QByteArray bytes = text.toUtf8();
     const auto length = static_cast<size_t>(bytes.size());
     if (csv_parse(&parser, bytes.constData(), length, on_field, on_end, &found) != length ||
         csv_fini(&parser, on_field, on_end, &found) != 0) {
@@ -160,5 +181,5 @@ QList<sheet_line> read_sheet(const QString& path) {
             u"%1: line %2: a quotation mark stands where none belongs, or one is missing"_s.arg(
                 path, QString::number(found.line)));
     }
-    return found.lines;
+    return {found.lines, is_guessed};
 }

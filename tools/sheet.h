@@ -13,7 +13,14 @@ struct sheet_line {
     QStringList fields;
 };
 
-/// Reads a file of separated values: UTF-8, UTF-16 with its mark, or GB18030; commas, semicolons or
-/// tabs, whichever the first line has most of. Empty lines are left out. Throws failure when it
-/// cannot be read.
-[[nodiscard]] QList<sheet_line> read_sheet(const QString& path);
+/// What a file of separated values holds.
+struct sheet {
+    QList<sheet_line> lines; ///< the empty ones are left out
+    bool is_guessed = false; ///< it is not UTF-8 and bears no mark, and was taken for GB18030
+};
+
+/// Reads the content of a file that reports call `path`: in `charset` or, when that is empty,
+/// UTF-8, UTF-16 with its mark, or GB18030; commas, semicolons or tabs, whichever the first line
+/// has most of. Throws failure when it cannot be read.
+[[nodiscard]] sheet read_sheet(const QByteArray& content, const QString& path,
+                               const QString& charset);

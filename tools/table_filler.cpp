@@ -69,11 +69,15 @@ QJsonValue table_filler::old_value(const QJsonArray& row, const column& wanted) 
     return wanted.source < 0 ? QJsonValue() : row.at(wanted.source);
 }
 
-qint64 table_filler::number_of(const QJsonArray& row) const {
-    for (const column& wanted : columns_) {
-        const QJsonValue key = wanted.is_key ? old_value(row, wanted) : QJsonValue();
-        if (key.isDouble()) {
-            return key.toInteger(read_); // what is no whole number is named by its place
+qint64 table_filler::number_of(const QJsonArray& row, const QList<carried>& values) const {
+    for (qsizetype i = 0; i < columns_.size(); ++i) {
+        const carried& key = values.at(i);
+        if (columns_.at(i).is_key && key.value.isValid()) {
+            bool is_whole = true;
+            const qint64 number =
+                key.fault.isEmpty() ? key.value.toLongLong()
+                                    : text_of(old_value(row, columns_.at(i))).toLongLong(&is_whole);
+            return is_whole ? number : read_; // what is none is named by its place
         }
     }
     return read_;
@@ -123,11 +127,11 @@ void table_filler::take(const QJsonArray& row) {
     if (!insertion_) {
         return; // every column has been reported
     }
-    const qint64 number = number_of(row);
     QList<carried> values;
     for (const column& wanted : columns_) {
         values.append(carry(old_value(row, wanted), wanted.takes));
     }
+    const qint64 number = number_of(row, values);
     const QString reason = objection(values, number);
     if (!reason.isEmpty()) {
         lost_.add(table_, reason, number);

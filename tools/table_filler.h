@@ -40,8 +40,9 @@ private:
     [[nodiscard]] static QJsonValue old_value(const QJsonArray& row, const column& wanted);
     /// Why the row cannot be carried; empty when it can.
     [[nodiscard]] QString objection(const QList<carried>& values, qint64 number) const;
-    /// The number that a report names a row by: its key, or how many have been read.
-    [[nodiscard]] qint64 number_of(const QJsonArray& row) const;
+    /// The number that a report names a row by: its key, however that is written, or how many have
+    /// been read.
+    [[nodiscard]] qint64 number_of(const QJsonArray& row, const QList<carried>& values) const;
     [[nodiscard]] QVariantList accounted(const QList<carried>& values, qint64 number);
 
     losses& lost_;

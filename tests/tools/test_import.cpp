@@ -4,6 +4,7 @@
 #include "platform/connection_pool.h"
 #include "tests/tools/smsdb_shell.h"
 #include "tools/old_values.h"
+#include "tools/table_filler.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -95,12 +96,14 @@ private slots:
         row(edit.arg(uR"(s/\x02(\0?\x08\0{7}\x01)/\x01$1/)"_s), // older than its last column
             u"rights            14        14"_s);
         row(edit.arg(uR"(s/(plain ASCII text.{3,6})\x03/$1\x01/s)"_s), // marked as Null
-            u"not carried: smsmodels.text 15: cannot be read"_s);
+            u"smsmodels.text 15: is damaged there, an older copy may"_s);
         row(edit.arg(uR"(s/(n\0?d\0?i\0?s\0?o\0?)k/$1x/)"_s), // none may wait to be sent then
-            u"its definition is not carried\nimported"_s);
+            u"its definition is not carried\nnote: "_s);
+        row(edit.arg(uR"(s/(v_sendsms(\xff\xfe)?)sendisok/$1password/)"_s),
+            u"\"v_sendsms\" shows passwords"_s);
         const QString knot =
             u"for $p (1 .. length() / PAGE - 1) { $at = $p * PAGE; substr($_, $at + 4, 4) eq \"LVAL\" and substr($_, $at + (0x1fff & unpack \"v\", substr($_, $at + (PAGE == 2048 ? 10 : 14))), 4) = pack \"V\", $p << 8 }"_s;
-        row(edit.arg(knot), u"9, 14: cannot be read\n"_s);
+        row(edit.arg(knot), u"9, 14: is damaged there"_s);
         const QString flips = u"srand %1; substr($_, rand length, 1) = chr rand 256 for 1 .. 200"_s;
         for (int seed = 1; seed <= 10; ++seed) {
             row(edit.arg(flips.arg(seed)), {});
@@ -148,6 +151,20 @@ private slots:
         QTEST(fault.isEmpty() ? value : QVariant(), "value"); // none where something is lost
     }
 
+    void takes_a_key_as_it_is_written() {
+        SqliteDatabase database({}, SqliteDatabase::Mode::memory);
+        database.execute_script("create table smsmodels (mid integer primary key, text)");
+        losses lost;
+        table_filler filler(database, lost, u"smsmodels"_s, u"smsmodels"_s, {u"mid"_s, u"text"_s});
+        for (const QJsonValue& key :
+             {QJsonValue(u"5"_s), QJsonValue(5), QJsonValue(u"70000"_s), QJsonValue(u"x"_s)}) {
+            filler.take({key, u"a"_s});
+        }
+        QCOMPARE(filler.rows_written(), 1);
+        QVERIFY2(lost.lines().contains(u"smsmodels 5: its number is given twice"), "5");
+        QVERIFY2(lost.lines().contains(u"smsmodels 4, 70000: its number is not"), "70000");
+    }
+
     void imports_customers_data() {
         QTest::addColumn<QString>("options");
         QTest::addColumn<QString>("told");
@@ -157,32 +174,48 @@ private slots:
             QTest::newRow(csv) << QString::fromUtf8(options) << told << last;
         };
         const QString one = u"1 customer(s) added, 0"_s;
-        row("手机,姓名,备注\n 1,甲,\"a\nb, c\"", "", one, u"2|甲|1||||a\nb, c"_s);
-        row("\xca\xd6\xbb\xfa;name\n2;\xd2\xd2", "", one, u"2|乙|2||||"_s);
-        row("\ufeffMobile\tPhone\r\n3\t'=1", "", one, u"2||3|||=1|"_s);
-        row("mobile,memo\n4,\"a\nb\"\n\n ,y", "", u"line 5: left out: no"_s, u"2||4||||a\nb"_s);
-        row("mobile\n1.39E+10\n5", "", u"line 2: left out: the spread"_s, u"2||5||||"_s);
-        row("mobile\n5\n6'", "", u"line 3: left out: an apost"_s, u"2||5||||"_s);
-        row("mobile,sex\n1-3,男", "", u"line 2: skipped: customer 1 has"_s, u"1|旧|13||||"_s);
-        row("mobile,sex,name\n1-3,男,", "--duplicates update", u"1 updated"_s, u"1|旧|1-3|男|||"_s);
-        row("mobile\n5\n5", "--duplicates add", u"line 3: added again: cust"_s, u"3||5||||"_s);
-        row("mobile\n13800138000\n+86 138-0013-8000", "", u"line 3: "_s, u"2||13800138000||||"_s);
-        row("mobile\n6", "--dry-run --class 新", u"changed: 1 customer(s)"_s, u"1|旧|13||||"_s);
-        row("sep=;\nＮａｍｅ;手　机（必填）;电话\n甲;=\"１２\";\"=\"\"010\"\"\"", "", one,
-            u"2|甲|12|||010|"_s);
-        row("mobile,\n5.0,\n无,\n6,x", "", u"line 3: left out: no mobile number but"_s,
-            u"3||6||||"_s);
-        row("mobile,\n5,x", "", u"line 2: column 2 is not used: it has no"_s, u"2||5||||"_s);
-        row("mobile,name\n1,张三\n2,\xc0\xee", "", u"line 3 is not in UTF-8"_s, u"1|旧|13||||"_s);
-        row("mobile,name\n1,\xc0\xee\xc0", "", u"is no text"_s, u"1|旧|13||||"_s);
-        row("mobile\n\"6", "", u"line 2: a quotation mark"_s, u"1|旧|13||||"_s);
-        row("name\n6", "", u"no heading names"_s, u"1|旧|13||||"_s);
+        row("手机,姓名,备注\n 101,甲,\"a\nb, c\"", "", one, u"2|甲|101||||a\nb, c"_s);
+        row("\xca\xd6\xbb\xfa;name\n102;\xd2\xd2", "", u"taken for GB18030"_s, u"2|乙|102||||"_s);
+        row("\xa4\xe2\xbe\xf7,\xa9\xca\xa7\x4f\n102,\xa8\x6b", "--charset Big5", one,
+            u"2||102|男|||"_s);
+        row("mobile,name\n102,Jos\xe9", "--charset ISO-8859-1", one, u"2|José|102||||"_s);
+        row("客戶名稱,手機號碼,備註\n甲,102,乙", "", one, u"2|甲|102||||乙"_s);
+        row("mobile\n103", "--charset none", u"--charset none: unknown"_s, u"1|旧|1-34||||"_s);
+        row("\ufeffMobile\tPhone\r\n103\t'=1", "", one, u"2||103|||=1|"_s);
+        row("mobile,memo\n104,\"a\nb\"\n\n ,y", "", u"line 5: left out: no"_s, u"2||104||||a\nb"_s);
+        row("mobile\n1.39E+10\n105", "", u"line 2: left out: the spread"_s, u"2||105||||"_s);
+        row("mobile\n105\n106'", "", u"line 3: left out: no mobile number of"_s, u"2||105||||"_s);
+        row("mobile,sex\n134,男", "", u"line 2: skipped: customer 1 has"_s, u"1|旧|1-34||||"_s);
+        row("mobile,sex,name\n134,男,", "--duplicates update", u"1 updated"_s,
+            u"1|旧|1-34|男|||"_s);
+        row("mobile\n(134)", "--duplicates update", u"0 customer(s) added, 1 up"_s,
+            u"1|旧|1-34||||"_s);
+        row("mobile\n105\n105", "--duplicates add", u"line 3: added again: cust"_s,
+            u"3||105||||"_s);
+        row("mobile\n138-0013-8000\n+86 138 0013 8000", "", u"line 3: "_s, u"2||13800138000||||"_s);
+        row("mobile\n106", "--dry-run --class 新", u"changed: 1 customer(s)"_s, u"1|旧|1-34||||"_s);
+        row("sep=;\nＮａｍｅ;手　机（必填）;电话\n甲;=\"１２３\";\"=\"\"010\"\"\"", "", one,
+            u"2|甲|123|||010|"_s);
+        row("mobile,memo\n=\"107\",\"x,=\"\",y\"", "", one, u"2||107||||x,=\",y"_s);
+        row("mobile,\n12345.0,\n无,\n106,x", "", u"line 3: left out: no mobile number of"_s,
+            u"3||106||||"_s);
+        row("mobile,\n105,x", "", u"line 2: column 2 is not used: it has no"_s, u"2||105||||"_s);
+        row("mobile,name\n101,张三\n102,\xc0\xee", "", u"line 3 is not in UTF-8"_s,
+            u"1|旧|1-34||||"_s);
+        row("mobile,name\n101,\xc0\xee\xc0", "", u"is no text"_s, u"1|旧|1-34||||"_s);
+        row("mobile\n\"6", "", u"line 2: a quotation mark"_s, u"1|旧|1-34||||"_s);
+        row("name,\n6", "", u"import-customers --help): \"name"_s, u"1|旧|1-34||||"_s);
+        row("mobile\n101\n102\n103", "# full", u"no more than 2 new one(s) fit"_s,
+            u"1|旧|1-34||||"_s);
     }
 
     void imports_customers() {
         QFETCH(QString, options);
         QFETCH(QString, told);
-        test_database::execute(u"insert into customer values (1,'','旧','','13','','')"_s);
+        test_database::execute(u"insert into customer values (1,'','旧','','1-34','','')"_s);
+        if (options.contains(u"full"_s)) {
+            test_database::execute(u"update sqlite_sequence set seq=32765 where name='customer'"_s);
+        }
         QFile file(database_->folder() + u"/csv"_s);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QTest::currentDataTag()) > 0);
         file.close();
@@ -194,7 +227,7 @@ private slots:
 
     void gives_back_what_it_took() {
         test_database::execute(
-            u"insert into customer values (7,' 1 ','''甲,\"x\";','','+86','a\tb',' 两 \r\n\r ')"_s);
+            u"insert into customer values (7,'123','''甲,\"x\";','','+123','a\tb',' 两 ,=\",y\r\n\r ')"_s);
         QCOMPARE(run(u"smsdb export-customers FILE DIR/1 && smsdb create DIR/n"_s), 0);
         QCOMPARE(run(u"smsdb import-customers --class 新 DIR/1 DIR/n; echo $?"_s), 0);
         QVERIFY2(told_.endsWith("1 customer(s) added, 0 updated, 0 skipped\n1\n"), told_);

@@ -84,6 +84,7 @@ private slots:
         refuses("smsdb archive FILE --before 2024-1-02", u"expected a date"_s);
         refuses("smsdb archive FILE --before 2024-01-02 --to DIR/text", u"exists"_s);
         refuses("smsdb archive FILE --before 2024-01-02 --to DIR/full", u"too large"_s);
+        refuses("smsdb import-customers DIR/large FILE", u": reading or writing failed"_s);
         // Whoever is not told does not have it done.
         for (const char* line :
              {"smsdb create DIR/new >/dev/full", "smsdb backup DIR/other DIR/new >/dev/full",
