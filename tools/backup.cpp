@@ -29,7 +29,6 @@ int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().at(0);
     const QString place = arguments.positionalArguments().at(1);
     new_file backup(place);
-    refuse_logs(place);
     copy_database(file, backup.path(), place);
     conclude(u"copied %1 to %2\n"_s.arg(file, place), [&backup] { backup.put_in_place(); });
     return exit_status::clean;

@@ -8,7 +8,6 @@
 #include "tools/console.h"
 #include "tools/sheet.h"
 
-#include <QFile>
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
@@ -180,16 +179,9 @@ const QList<std::pair<QString, QString>>& customer_columns() {
     return columns;
 }
 
-customer_sheet read_customers(const QString& path, const QString& charset) {
-    constexpr qint64 largest = 0x4000000; // no list of 32,767 customers comes near
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw failure(u"%1: cannot be opened: %2"_s.arg(path, file.errorString()));
-    }
-    if (file.size() > largest) {
-        throw failure(u"%1: is too large for a list of customers"_s.arg(path));
-    }
-    const auto [lines, is_guessed] = read_sheet(file.read(largest), path, charset);
+customer_sheet read_customers(const QByteArray& content, const QString& path,
+                              const QString& charset) {
+    const auto [lines, is_guessed] = read_sheet(content, path, charset);
     customer_reader reader(path, lines.value(0).fields);
     for (const sheet_line& line : lines.sliced(qMin<qsizetype>(1, lines.size()))) {
         reader.take(line);

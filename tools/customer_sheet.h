@@ -24,6 +24,7 @@ struct customer_sheet {
 /// The columns of `customer` that a spreadsheet holds, and the headings that it is written with.
 [[nodiscard]] const QList<std::pair<QString, QString>>& customer_columns();
 
-/// Reads customers from a file in `charset` as `read_sheet` does. Throws failure also when no
-/// heading names the mobile number.
-[[nodiscard]] customer_sheet read_customers(const QString& path, const QString& charset);
+/// Reads customers as `read_sheet` reads lines. Throws failure also when no heading names the
+/// mobile number.
+[[nodiscard]] customer_sheet read_customers(const QByteArray& content, const QString& path,
+                                            const QString& charset);

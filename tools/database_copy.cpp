@@ -11,7 +11,6 @@
 #include "tools/inspection.h"
 #include "tools/query.h"
 
-#include <QFileInfo>
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
@@ -70,13 +69,5 @@ void copy_database(const QString& file, const QString& path, const QString& plac
         const bool of_the_copy =
             error.kind() == DataError::Kind::disk || error.kind() == DataError::Kind::cannot_open;
         throw failure(describe(error, of_the_copy ? place : file));
-    }
-}
-
-void refuse_logs(const QString& place) {
-    for (const QString& log : {place + u"-wal"_s, place + u"-journal"_s}) {
-        if (QFileInfo::exists(log)) {
-            throw failure(u"%1: is in the way; it belongs to a database that is gone"_s.arg(log));
-        }
     }
 }

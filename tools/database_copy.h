@@ -10,7 +10,3 @@
 /// fault in it, when it is a newer program's or when it holds not all of this system's tables;
 /// DataError about `file`.
 void copy_database(const QString& file, const QString& path, const QString& place);
-
-/// Throws failure when a log lies beside `place`: it would be taken for that of the database that
-/// is put there.
-void refuse_logs(const QString& place);

@@ -12,6 +12,7 @@
 #include "tools/query.h"
 
 #include <QCommandLineParser>
+#include <QFile>
 #include <QHash>
 #include <QSet>
 
@@ -222,14 +223,28 @@ std::unique_ptr<SqliteDatabase> opened(const QString& file, bool is_trial) {
     return copy;
 }
 
+QByteArray content_of(const QString& path) {
+    constexpr qint64 largest = 0x4000000; // no list of 32,767 customers comes near
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw failure(u"%1: cannot be opened: %2"_s.arg(path, file.errorString()));
+    }
+    if (file.size() > largest) {
+        throw failure(u"%1: is too large for a list of customers"_s.arg(path));
+    }
+    return file.read(largest);
+}
+
 int run(const QCommandLineParser& arguments) {
+    const QString csv = arguments.positionalArguments().at(0);
+
     const QString file = arguments.positionalArguments().at(1);
     const bool is_trial = arguments.isSet(u"dry-run"_s);
     const duplicates way = way_of(arguments.value(u"duplicates"_s));
     const QString into_class = class_of(arguments);
     const QString charset = arguments.value(u"charset"_s);
     refuse_charset(charset);
-    const customer_sheet sheet = read_customers(arguments.positionalArguments().at(0), charset);
+    const customer_sheet sheet = read_customers(content_of(csv), csv, charset);
     try {
         const std::unique_ptr<SqliteDatabase> database = opened(file, is_trial);
         database->execute(u"BEGIN IMMEDIATE"_s);

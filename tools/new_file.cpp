@@ -18,6 +18,15 @@ namespace {
     throw failure(u"%1: cannot be written: %2"_s.arg(path, reason));
 }
 
+/// A log beside another database than its own would be taken for the other's.
+void refuse_logs(const QString& place) {
+    for (const QString& log : {place + u"-wal"_s, place + u"-journal"_s}) {
+        if (QFileInfo::exists(log)) {
+            throw failure(u"%1: is in the way; it belongs to a database that is gone"_s.arg(log));
+        }
+    }
+}
+
 } // namespace
 
 new_file::new_file(const QString& place, existing there)
@@ -28,6 +37,9 @@ new_file::new_file(const QString& place, existing there)
     const QFileInfo old(place);
     if (there == existing::keep && (old.exists() || old.isSymLink())) {
         throw failure(u"%1: exists already"_s.arg(place));
+    }
+    if (there == existing::keep) {
+        refuse_logs(place);
     }
     // A run killed while it made its lock leaves one that names nobody; a live one's is kept
     // anyhow.

@@ -14,8 +14,9 @@
 /// that is asked to end leaves nothing.
 class new_file {
 public:
-    /// Throws failure when there is something at `place` that is to be kept, its folder cannot be
-    /// written, or another run is making the same file.
+    /// Throws failure when there is something at `place` that is to be kept, or a log of a database
+    /// that is gone beside it, its folder cannot be written, or another run is making the same
+    /// file.
     explicit new_file(const QString& place, existing there = existing::keep);
     /// Takes away what was not put in place.
     ~new_file();

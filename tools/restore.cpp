@@ -102,7 +102,6 @@ int run(const QCommandLineParser& arguments) {
     copy_database(backup, made.path(), place);
     const QString told = u"restored %1 from %2\n"_s.arg(place, backup);
     if (!replaces) {
-        refuse_logs(place);
         conclude(told, [&made] { made.put_in_place(); });
         return exit_status::clean;
     }

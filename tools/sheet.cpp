@@ -9,6 +9,7 @@
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <optional>
 
@@ -111,14 +112,22 @@ QString without_formulas(const QString& text, char separator) {
     return plain;
 }
 
+/// The one that the first line has most of, quoted parts aside.
 char separator_of(const QString& text) {
-    static const QRegularExpression line_end(u"[\\r\\n]"_s);
-    const QString first_line = text.trimmed().section(line_end, 0, 0);
-    const auto rarer = [&first_line](QChar a, QChar b) {
-        return first_line.count(a) < first_line.count(b);
-    };
-    const auto separators = {QChar(u','), QChar(u';'), QChar(u'\t')};
-    return std::max_element(separators.begin(), separators.end(), rarer)->toLatin1();
+    constexpr std::array separators{',', ';', '\t'};
+    std::array<int, separators.size()> counts{};
+    bool is_quoted = false;
+    for (const QChar c : text.trimmed()) {
+        is_quoted = is_quoted != (c == u'"');
+        if (!is_quoted && (c == u'\n' || c == u'\r')) {
+            break;
+        }
+        for (std::size_t i = 0; !is_quoted && i < separators.size(); ++i) {
+            counts.at(i) += c == QLatin1Char(separators.at(i)) ? 1 : 0;
+        }
+    }
+    const auto* most = std::max_element(counts.begin(), counts.end());
+    return separators.at(static_cast<std::size_t>(most - counts.begin()));
 }
 
 /// What the parser finds, put together into lines.

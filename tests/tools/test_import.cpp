@@ -197,6 +197,7 @@ private slots:
         row("sep=;\nＮａｍｅ;手　机（必填）;电话\n甲;=\"１２３\";\"=\"\"010\"\"\"", "", one,
             u"2|甲|123|||010|"_s);
         row("mobile,memo\n=\"107\",\"x,=\"\",y\"", "", one, u"2||107||||x,=\",y"_s);
+        row("\"memo(a;b;c)\",mobile\nx,105", "", one, u"2||105||||x"_s);
         row("mobile,\n12345.0,\n无,\n106,x", "", u"line 3: left out: no mobile number of"_s,
             u"3||106||||"_s);
         row("mobile,\n105,x", "", u"line 2: column 2 is not used: it has no"_s, u"2||105||||"_s);

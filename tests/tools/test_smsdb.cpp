@@ -71,6 +71,7 @@ private slots:
         refuses("smsdb check DIR/none", u"there is no such file"_s);
         refuses("smsdb check DIR/text", u"is no database"_s);
         refuses("smsdb create DIR/text", u"exists"_s);
+        refuses("smsdb create DIR/gone", u"is in the way"_s);
         refuses("smsdb backup FILE FILE", u"exists"_s);
         refuses("smsdb backup DIR/empty DIR/copy", u"it has no table smsmodels"_s);
         refuses("smsdb backup FILE DIR/full", u"reading or writing failed"_s);
@@ -102,7 +103,8 @@ private slots:
         test_database::execute(sql);
         connection_pool::clear(); // or reading the file would drop the locks
         QCOMPARE(
-            run(u"cd DIR; echo text >text; : >empty; ln -s FILE link; smsdb create other >&-; "
+            run(u"cd DIR; echo text >text; : >empty; : >gone-wal; ln -s FILE link; smsdb create "
+                u"other >&-; "
                 "cp other newer; printf '\\0\\0\\0\\11' | dd of=newer bs=1 seek=60 conv=notrunc "
                 "2>&-; "
                 "printf '手机\\n138\\n' >csv; (echo 手机,备注; "
@@ -154,13 +156,15 @@ private slots:
         QVERIFY2(told_.endsWith(".before-restore" + owned), told_);
         QCOMPARE(test_database::value(u"select count(*) from customer"_s).toInt(), 0);
         connection_pool::clear();
-        QCOMPARE(run(u"cd DIR; smsdb restore FILE.before-restore FILE; echo damage >k; "
+        QCOMPARE(run(u"cd DIR; smsdb restore FILE.before-restore FILE; echo damage >k; : >k-wal; "
                      "smsdb restore b k; smsdb restore b n; test -L link && "
                      "cat k.before-restore && ls -A"_s),
                  0);
-        QVERIFY2(told_.endsWith("damage\nb\nc\nk\nk.before-restore\nlink\nn\nsms.old.mdb\n"
-                                "sms.old.mdb.before-restore\n"),
-                 told_);
+        QVERIFY2(
+            told_.endsWith(
+                "damage\nb\nc\nk\nk.before-restore\nk.before-restore-wal\nlink\nn\nsms.old.mdb\n"
+                "sms.old.mdb.before-restore\n"),
+            told_);
         QCOMPARE(test_database::value(u"select count(*) from customer"_s).toInt(), 1);
     }
 
@@ -168,7 +172,7 @@ private slots:
         const QString asked =
             u"cd DIR; echo x >n.part; mkfifo p; exec 3<>p; "
             "dd if=/dev/zero bs=65536 count=1 >&3 2>&-; smsdb create n >&3 & "
-            "until test -e n.smsdb-part; do :; done; kill -%1 $!; wait $!; ls n*"_s;
+            "until test -e n.smsdb-part -o -e n; do :; done; kill -%1 $!; wait $!; ls n*"_s;
         QCOMPARE(run(asked.arg(u"TERM"_s)), 0);
         QVERIFY2(told_.endsWith("d\nn.part\n"), told_); // Terminated
         QCOMPARE(run(asked.arg(u"KILL"_s) + u"; test ! -e n && smsdb create n >&- && ls n*"_s), 0);
