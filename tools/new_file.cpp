@@ -3,7 +3,7 @@
 
 #include "tools/new_file.h"
 
-#include "platform/ownership.h"
+#include "platform/file_owner.h"
 #include "platform/termination.h"
 #include "tools/command.h"
 
@@ -82,11 +82,12 @@ void new_file::put_in_place() {
 }
 
 void new_file::take_ownership_of_replaced() {
-    const std::error_code error = copy_ownership(QFileInfo(place_).filesystemFilePath(),
-                                                 QFileInfo(part_).filesystemFilePath());
-    if (error) {
-        fail(place_,
-             u"its owner and permissions cannot be kept: "_s + qt_error_string(error.value()));
+    give_owner_of(place_, part_);
+    const QFileInfo wanted(place_);
+    const QFileInfo made(part_);
+    if (made.ownerId() != wanted.ownerId() || made.groupId() != wanted.groupId() ||
+        !QFile::setPermissions(part_, QFile::permissions(place_))) {
+        fail(place_, u"only its owner can replace it"_s);
     }
 }
 

@@ -47,6 +47,9 @@ fs::path path_of(const QString& file) {
 
 /// What a killed client left in its log goes into the file, if it can be read at all.
 void fold_log_of(const QString& place) {
+    if (!QFileInfo::exists(place + u"-wal"_s) && !QFileInfo::exists(place + u"-journal"_s)) {
+        return;
+    }
     try {
         SqliteDatabase(place, SqliteDatabase::Mode::existing, 0).fold_log();
     } catch (const DataError&) { // NOLINT(bugprone-empty-catch): then both are kept as they are
