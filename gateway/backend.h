@@ -3,31 +3,73 @@
 
 #pragma once
 
-#include "gateway/wire.h"
+#include "gateway/network.h"
 
 #include <functional>
-#include <optional>
 
 namespace gateway {
 
-/// A mobile network, or something that behaves like one.
+/// Where an engine brings what it learns from its network. All of it is called from the event
+/// loop's thread, and never from inside a call of the engine's own functions.
+class network_sink {
+public:
+    virtual ~network_sink() = default;
+
+    /// What became of a message that was handed over or asked for: exactly once for every
+    /// hand_over() and every ask(). Nothing need be kept for it: if the store cannot be written
+    /// just now, the sink itself remembers it.
+    virtual void settle(message_id id, const handover& outcome) = 0;
+
+    /// A report; true when it is kept for good (or was before, or names no message that is known).
+    /// An engine tells its network that it has the report only then; on false it lets the network
+    /// tell it again, or calls again in a second.
+    [[nodiscard]] virtual bool take(const report& told) = 0;
+
+    /// The same for a received message, whole or in parts.
+    [[nodiscard]] virtual bool take(const incoming_message& message) = 0;
+    [[nodiscard]] virtual bool take(const incoming_part& part) = 0;
+
+    /// backend::health() tells something else from now on.
+    virtual void health_changed() = 0;
+};
+
+/// An engine: what speaks to one kind of network, or plays one.
+///
+/// The relay keeps every message in its store and hands it over by its id, after it has noted that
+/// it is about to. An engine never waits and never blocks: it answers through the sink, from the
+/// event loop, within a bound of its own (a network that is silent for too long is `unknown` when
+/// it may have the message, else `not_now`). An engine repeats nothing that it was handed: whether
+/// and when a message goes again is decided above it. After a kill of the gateway, or after
+/// `unknown`, the relay asks for the message by its id until the engine knows, and never hands it
+/// over again by itself; an engine whose network cannot be asked answers `unknown` and leaves it to
+/// a report that may still come.
 class backend {
 public:
-    /// Told once what became of a submission; nothing means that no verdict will ever come.
-    using outcome_handler = std::function<void(std::optional<verdict>)>;
-    /// Told of every message from the network.
-    using receive_handler = std::function<void(const received_message&)>;
-
     virtual ~backend() = default;
 
-    /// Hands a message over; `done` is called now or later, from the event loop's thread.
-    virtual void submit(const submission& message, const outcome_handler& done) = 0;
+    /// Connects and serves from now on. The sink outlives the engine. Called once.
+    virtual void start(network_sink& sink) = 0;
 
-    /// Says who is told of received messages from now on.
-    virtual void set_receive_handler(const receive_handler& handler) = 0;
+    /// Hands a message over; settle() is owed for it, later.
+    virtual void hand_over(const outgoing_message& message) = 0;
+
+    /// Asks what became of a message that was handed over before, perhaps by an earlier process;
+    /// settle() is owed for it, later. `not_now` means here that the network surely never got it.
+    virtual void ask(message_id id) = 0;
+
+    /// How many messages may be without their settle() at a time. May change; asked before each.
+    [[nodiscard]] virtual int window() const = 0;
+
+    /// While it is not up nothing is handed over and nothing asked for; the engine calls
+    /// network_sink::health_changed() when that changes.
+    [[nodiscard]] virtual network_health health() const = 0;
+
+    /// Tries the connection for `smsgateway check`, without start(): `done` is called once, from
+    /// the event loop, with the fault in one clear line, or with nothing.
+    virtual void check(const std::function<void(const QString& fault)>& done) = 0;
 
     /// Carries out a line of the control channel. Gives the reason if it cannot, else nothing.
-    [[nodiscard]] virtual QString command(const QString& line) = 0;
+    [[nodiscard]] virtual QString command(const QString& line);
 };
 
 } // namespace gateway

@@ -42,7 +42,7 @@ QString endpoint_text(const QHostAddress& address, quint16 port) {
 
 // Passes the lines of the descriptor to the network as commands.
 std::unique_ptr<gateway::control_channel> watch_commands(int descriptor,
-                                                         gateway::backend& network) {
+                                                         gateway::instant_backend& network) {
     auto channel = std::make_unique<gateway::control_channel>(descriptor);
     const auto complain = [](const QString& reason) {
         gateway::complain(u"command ignored: "_s + reason);

@@ -124,9 +124,11 @@ std::variant<options, printed_text, usage_error> parse_options(const QStringList
     if (parser.value(u"backend"_s) != u"simulator"_s) {
         values.refuse(u"backend"_s, u"simulator"_s);
     }
-    wanted.simulator = {values.rate(u"fail-rate"_s), values.rate(u"drop-rate"_s),
-                        values.duration(u"delay"_s), parser.isSet(u"echo"_s),
-                        values.duration(u"echo-delay"_s)};
+    wanted.simulator = {.fail_rate = values.rate(u"fail-rate"_s),
+                        .drop_rate = values.rate(u"drop-rate"_s),
+                        .delay = values.duration(u"delay"_s),
+                        .echo = parser.isSet(u"echo"_s),
+                        .echo_delay = values.duration(u"echo-delay"_s)};
     wanted.journal_path = values.path(u"journal"_s);
     wanted.control_path = values.path(u"control"_s);
     if (!values.error().isEmpty()) {

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace gateway {
 
-server::server(backend& network, journal& log) : network_(network), journal_(log) {
+server::server(instant_backend& network, journal& log) : network_(network), journal_(log) {
     connect(&listener_, &QTcpServer::newConnection, this, &server::accept_clients);
     network_.set_receive_handler([this](const auto& message) { receive(message); });
 }

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "gateway/backend.h"
 #include "gateway/client_link.h"
+#include "gateway/instant_backend.h"
 #include "gateway/journal.h"
 
 #include <QHostAddress>
@@ -28,7 +28,7 @@ public:
     static constexpr qsizetype max_clients = 900;
 
     /// A server between clients and the network. Both the network and the journal outlive it.
-    server(backend& network, journal& log);
+    server(instant_backend& network, journal& log);
 
     /// Listens; port 0 takes any free one. Gives the reason if it cannot, else nothing.
     [[nodiscard]] QString listen(const QHostAddress& address, quint16 port);
@@ -45,7 +45,7 @@ private:
     void confirm_delivery(const received_message& message);
     void deliver_next();
 
-    backend& network_;
+    instant_backend& network_;
     journal& journal_;
     QTcpServer listener_;
     QList<client_link*> links_;

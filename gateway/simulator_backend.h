@@ -3,26 +3,15 @@
 
 #pragma once
 
-#include "gateway/backend.h"
+#include "gateway/instant_backend.h"
+#include "gateway/settings.h"
 
 #include <QObject>
 
-#include <chrono>
-
 namespace gateway {
 
-/// How the simulated network behaves. Rates are probabilities from 0 to 1; drops go first when
-/// the two add up to more than 1.
-struct simulator_settings {
-    double fail_rate = 0;
-    double drop_rate = 0;
-    std::chrono::milliseconds delay{0};
-    bool echo = false;
-    std::chrono::milliseconds echo_delay{1'000};
-};
-
 /// A network made up on the spot, for trials and tests: no message leaves the machine.
-class simulator_backend final : public QObject, public backend {
+class simulator_backend final : public QObject, public instant_backend {
     Q_OBJECT
 
 public:

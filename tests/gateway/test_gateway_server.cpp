@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A network whose outcomes the test gives by hand.
-class hand_backend final : public gateway::backend {
+class hand_backend final : public gateway::instant_backend {
 public:
     void submit(const gateway::submission&, const outcome_handler& done) override {
         outcomes.append(done);

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "gateway/settings.h"
+
+#include <QTemporaryFile>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class test_gateway_settings : public QObject {
+    Q_OBJECT
+
+    // The faults of a file, less its name.
+    static QString faults(const QByteArray& content, gateway::settings* values = nullptr) {
+        QTemporaryFile file;
+        [&] { QVERIFY(file.open()); }();
+        file.write(content);
+        file.close();
+        const auto read = gateway::read_settings(file.fileName());
+        if (values != nullptr) {
+            *values = read.values;
+        }
+        return read.faults.join(u'\n').remove(file.fileName());
+    }
+
+private slots:
+    void reads() {
+        gateway::settings all;
+        QCOMPARE(faults("; a comment\n[gateway]\nengine = kannel\nlisten = [::1]:9200\n"
+                        "tell_failures=refused\n[numbers]\nshort_codes = 106*, xxx\n"
+                        "[kannel]\nusername=店\npassword = \"a,;\\\\ b\"\ntimeout_s=5\n"
+                        "[http]\nsecret=x\n[simulator]\necho = yes\nfail_rate=0.5\n",
+                        &all),
+                 QString());
+        QVERIFY(all.gateway.engine == gateway::engine_name::kannel);
+        QCOMPARE(gateway::endpoint_text(all.gateway.listen), u"[::1]:9200"_s);
+        QVERIFY(all.gateway.tell_failures == gateway::told_failures::refused);
+        QCOMPARE(all.numbers.short_codes, (QStringList{u"106*"_s, u"xxx"_s}));
+        QCOMPARE(all.kannel.username, u"店"_s);
+        QCOMPARE(all.kannel.password, u"a,;\\ b"_s);
+        QCOMPARE(all.kannel.timeout.count(), 5);
+        QVERIFY(all.simulator.echo && all.simulator.fail_rate == 0.5);
+    }
+
+    void tells_faults_data() {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("told"); // a part of the only line
+        const auto row = [](const char* content, const QString& told) {
+            QTest::newRow(content) << QByteArray(content) << told;
+        };
+        row("[gateway]\n\nlisn = 1", u":3: there is no setting gateway/lisn"_s);
+        row("[gateway]\nlisten = 300.0.0.1:1",
+            u":2: gateway/listen = 300.0.0.1:1: expected an IP"_s);
+        row("[gateway]\nengine = carrier", u"expected one of: simulator, kannel, gammu"_s);
+        row("[gateway]\nkeep_days = 1", u"a whole number from 2"_s);
+        row("[simulator]\nfail_rate = nan", u"a probability"_s);
+        row("[simulator]\necho = perhaps", u"yes or no"_s);
+        row("[numbers]\nshort_codes = 1y", u":2: numbers/short_codes = 1y: expected numbers"_s);
+        row("[numbers]\ncountry = 8６", u"up to 3 digits"_s);
+        row("[kannel]\nsendsms = ftp://x/", u"http://"_s);
+        row("[http]\non = yes\non = no", u":3: http/on stands already in line 2"_s);
+        row("[http]\nlisten", u":2: expected \"[section]\""_s);
+        row("[gammu]\npassword = a;b", u":2: gammu/password: a value with"_s);
+        row("[gateway]\nengine = gammu", u": gammu/database is missing"_s);
+    }
+
+    void tells_faults() {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, told);
+        const QString all = faults(content);
+        QVERIFY2(all.contains(told) && !all.contains(u'\n'), qPrintable(all));
+        QVERIFY(!all.contains(u"a;b"));
+    }
+};
+
+QTEST_GUILESS_MAIN(test_gateway_settings)
+#include "test_gateway_settings.moc"
