@@ -10,6 +10,8 @@ void bench_dispatch(int gateway_port);
 /// What a poll costs that finds messages.
 void bench_search();
 void bench_group_send();
+/// The gateway: how fast it keeps a message, with few and many kept, and its memory.
+void bench_gateway();
 /// List windows: open, refresh, sort, find.
 void bench_list();
 /// Process start, memory, and wake-ups of an idle client.

@@ -43,6 +43,9 @@ int main(int argc, char* argv[]) {
         if (wanted("group")) {
             bench_group_send();
         }
+        if (wanted("gateway")) {
+            bench_gateway();
+        }
         if (wanted("list")) {
             bench_list();
         }

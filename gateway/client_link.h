@@ -4,54 +4,98 @@
 #pragma once
 
 #include "gateway/frame_joiner.h"
+#include "gateway/intake.h"
 #include "gateway/outbox.h"
 #include "gateway/wire.h"
 
 #include <QObject>
 #include <QTcpSocket>
 
+#include <deque>
 #include <optional>
 
 namespace gateway {
 
-/// The connection of one client: frames in, verdicts and received messages out. A client that
-/// floods the gateway or never reads its answers is disconnected.
+/// The connection of one client: frames in, answers and received messages out, and what is known
+/// of whether the client has read them. A client that floods the gateway is disconnected.
 class client_link : public QObject {
     Q_OBJECT
 
 public:
-    /// Frames a client may have without an outcome; a well-behaved client has one.
-    static constexpr int max_unsettled = 1'000;
-    /// Bytes of answers a client may leave unread, on top of the system's own buffers.
-    static constexpr qint64 max_unread_bytes = 1'048'576;
+    /// Received messages that may be on their way to a client that has not surely read them.
+    static constexpr std::size_t most_unread = 5;
 
     /// Serves the connected socket and becomes its parent.
-    explicit client_link(QTcpSocket* socket, QObject* parent = nullptr);
+    client_link(QTcpSocket* socket, clock& time, QObject* parent = nullptr);
 
-    /// Settles a frame that frame_read brought: tells the verdict, or nothing if there is none.
-    void settle(std::optional<verdict> result);
+    /// The client's address.
+    [[nodiscard]] const QString& client() const { return client_; }
+    [[nodiscard]] bool has_spoken() const { return has_spoken_; }
 
-    /// Queues a received message; message_sent follows when it is written.
-    void send(const received_message& message);
+    /// The answer to the last frame, with the message that the frame brought.
+    void answer(const taking& result);
+    /// What is known of the answer before, which the link forgets.
+    [[nodiscard]] std::optional<earlier_answer> release_answer();
+    /// The answer is still on its way to the client's system.
+    [[nodiscard]] bool is_answer_under_way() const;
+
+    /// True when another received message may be given to bring().
+    [[nodiscard]] bool can_bring() const;
+    void bring(qint64 id, const received_message& message);
+
+    /// Reads all that has come and refuses it with one answer, if there is anything.
+    void distrust();
+    /// Writes the answers that wait and ends our side; what still comes is read and thrown away.
+    void end();
+    /// Disconnects at once.
+    void drop(const QString& reason);
 
 signals:
-    /// A frame came; settle() is owed for it, once.
-    void frame_read(const QByteArray& frame);
-    /// The received message was written.
-    void message_sent(const gateway::received_message& message);
+    /// Bytes came and are about to be read.
+    void arriving();
+    /// A frame came, which was read at this time (steady); answer() is owed for it.
+    void frame_read(const QByteArray& frame, qint64 read_at);
+    /// The client has surely read the answer that brought it this message's verdict.
+    void answer_confirmed(gateway::message_id id);
+    /// The link ended before.
+    void answer_left_open(gateway::message_id id);
+    /// A received message was written, or surely read.
+    void written(qint64 id);
+    void confirmed(qint64 id);
     /// The connection is over; the reason is empty when the client ended it.
     void closed(const QString& reason);
 
 private:
+    struct unread {
+        qint64 id = 0;
+        qint64 written_at = 0;
+        bool answer_followed = false;
+    };
+
+    void read_arrival();
     void take_frame(const QByteArray& frame);
-    void write(const outbox::frame& next);
+    void refuse();
+    void write_answer(verdict result);
+    void write_received();
+    void confirm_followed();
+    void confirm_acknowledged();
+    void watch_unread();
     void finish();
-    void drop(const QString& reason);
 
     QTcpSocket* socket_;
+    clock& clock_;
+    QString client_;
     frame_joiner joiner_;
     outbox outbox_;
-    int unsettled_ = 0;
+    std::optional<earlier_answer> answer_;
+    qint64 answer_written_at_ = 0;
+    std::deque<unread> unread_;
+    std::optional<std::pair<qint64, QByteArray>> waiting_;
+    std::unique_ptr<alarm> acknowledged_;
+    qint64 read_at_ = 0;
+    bool has_spoken_ = false;
+    bool ending_ = false;
+    bool distrusting_ = false;
     QString drop_reason_;
 };
 

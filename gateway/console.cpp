@@ -16,4 +16,10 @@ void complain(const QString& what) {
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
 
+void print(const QString& text) {
+    const QByteArray bytes = terminal_text(text);
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+    std::fflush(stdout);
+}
+
 } // namespace gateway

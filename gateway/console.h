@@ -10,4 +10,7 @@ namespace gateway {
 /// Writes one line to standard error, after the program's name.
 void complain(const QString& what);
 
+/// Writes to standard output, at once.
+void print(const QString& text);
+
 } // namespace gateway

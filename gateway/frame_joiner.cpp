@@ -7,31 +7,40 @@
 
 namespace gateway {
 
-frame_joiner::frame_joiner(std::chrono::milliseconds pause) {
-    pause_.setTimerType(Qt::PreciseTimer);
-    pause_.setSingleShot(true);
-    pause_.setInterval(pause);
-    connect(&pause_, &QTimer::timeout, this, &frame_joiner::finish);
-}
+frame_joiner::frame_joiner(clock& time) : pause_(time.make_alarm([this] { finish(); })) {}
 
-void frame_joiner::add(const QByteArray& bytes) {
-    collected_ += bytes;
-    if (collected_.size() > max_bytes) {
-        pause_.stop();
-        collected_.clear();
+void frame_joiner::add(const QByteArray& bytes, qint64 segment) {
+    count_ += bytes.size();
+    if (count_ <= max_frame_bytes) {
+        collected_ += bytes;
+    }
+    if (count_ > max_bytes) {
+        discard();
         emit overflowed();
-    } else if (collected_.size() % 2 != 0 || collected_.size() > max_certain_bytes) {
-        pause_.start();
+    } else if (count_ % 2 != 0 || count_ >= segment || count_ > max_frame_bytes) {
+        pause_->set(pause);
     } else {
         finish();
     }
 }
 
 void frame_joiner::finish() {
-    pause_.stop();
-    if (!collected_.isEmpty()) {
-        emit frame_read(std::exchange(collected_, {}));
+    const qsizetype count = count_;
+    const QByteArray frame = collected_;
+    if (!discard()) {
+        return;
     }
+    if (count > max_frame_bytes) {
+        emit frame_refused();
+    } else {
+        emit frame_read(frame);
+    }
+}
+
+bool frame_joiner::discard() {
+    pause_->stop();
+    collected_.clear();
+    return std::exchange(count_, 0) > 0;
 }
 
 } // namespace gateway

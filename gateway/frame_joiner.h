@@ -3,45 +3,50 @@
 
 #pragma once
 
+#include "gateway/clock.h"
+
 #include <QByteArray>
 #include <QObject>
-#include <QTimer>
-
-#include <chrono>
 
 namespace gateway {
 
 /// Turns what arrives from a client into frames. Frames carry no length and no end mark, so an
-/// arrival is a frame, unless its size hints that the rest of it is still under way.
+/// arrival is a frame, unless its size says that the rest of it may still be under way.
 class frame_joiner : public QObject {
     Q_OBJECT
 
 public:
-    /// Above this many bytes an arrival may be the start of a longer frame: TCP may have cut it.
-    static constexpr qsizetype max_certain_bytes = 1'024;
+    /// No message is longer; what is gets refused as a whole.
+    static constexpr qsizetype max_frame_bytes = qsizetype{2} * 4'096;
     /// More bytes than this without a pause are no message but a flood.
     static constexpr qsizetype max_bytes = 1'048'576;
-    /// Silence after which an uncertain frame counts as complete.
-    static constexpr std::chrono::milliseconds default_pause{20};
+    /// Silence after which an uncertain frame counts as complete: longer than a lost segment takes
+    /// to come again.
+    static constexpr std::chrono::milliseconds pause{500};
 
-    /// A joiner that takes a silence of `pause` for the end of an uncertain frame.
-    explicit frame_joiner(std::chrono::milliseconds pause = default_pause);
+    explicit frame_joiner(clock& time);
 
-    /// Takes in an arrival: emits frame_read at once or after the pause, or overflowed.
-    void add(const QByteArray& bytes);
+    /// Takes in an arrival over a link that carries up to `segment` bytes in a piece: emits
+    /// frame_read or frame_refused, at once or after the pause, or overflowed.
+    void add(const QByteArray& bytes, qint64 segment);
 
     /// Ends the frame being collected, if there is one.
     void finish();
+    /// Forgets the frame being collected; true if there was one.
+    bool discard();
 
 signals:
     /// A whole frame, as far as can be told.
     void frame_read(const QByteArray& frame);
-    /// More than max_bytes came without a pause; they are thrown away.
+    /// A frame that is longer than any message.
+    void frame_refused();
+    /// More than max_bytes came without a pause.
     void overflowed();
 
 private:
     QByteArray collected_;
-    QTimer pause_;
+    qsizetype count_ = 0; ///< of all its bytes, also of those that are not kept
+    std::unique_ptr<alarm> pause_;
 };
 
 } // namespace gateway

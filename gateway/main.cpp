@@ -1,21 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "gateway/check_command.h"
 #include "gateway/console.h"
 #include "gateway/control_channel.h"
-#include "gateway/journal.h"
+#include "gateway/engines.h"
+#include "gateway/list_command.h"
+#include "gateway/message_text.h"
 #include "gateway/options.h"
-#include "gateway/server.h"
-#include "gateway/simulator_backend.h"
+#include "gateway/relay.h"
+#include "gateway/system_calls.h"
 #include "gateway/termination_watch.h"
+#include "platform/data_error.h"
+#include "platform/process_limits.h"
 #include "platform/program_language.h"
 #include "platform/standard_streams.h"
-#include "platform/terminal.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QFileSystemWatcher>
 
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <memory>
 
@@ -25,27 +30,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void print(const QString& text) {
-    std::fputs(terminal_text(text).constData(), stdout);
-    std::fflush(stdout);
-}
-
 int fail(const QString& what) {
     gateway::complain(what);
     return EXIT_FAILURE;
 }
 
-QString endpoint_text(const QHostAddress& address, quint16 port) {
-    const bool is_v6 = address.protocol() == QAbstractSocket::IPv6Protocol;
-    return (is_v6 ? u"[%1]:%2"_s : u"%1:%2"_s).arg(address.toString()).arg(port);
-}
-
 // Passes the lines of the descriptor to the network as commands.
 std::unique_ptr<gateway::control_channel> watch_commands(int descriptor,
-                                                         gateway::instant_backend& network) {
+                                                         gateway::backend& network) {
     auto channel = std::make_unique<gateway::control_channel>(descriptor);
     const auto complain = [](const QString& reason) {
-        gateway::complain(u"command ignored: "_s + reason);
+        gateway::complain(gateway::say("command ignored: %1").arg(reason));
     };
     QObject::connect(channel.get(), &gateway::control_channel::line_refused, complain);
     QObject::connect(channel.get(), &gateway::control_channel::line_read,
@@ -58,58 +53,99 @@ std::unique_ptr<gateway::control_channel> watch_commands(int descriptor,
     return channel;
 }
 
-int serve(const gateway::options& wanted) {
-    gateway::journal journal;
-    gateway::simulator_backend network(wanted.simulator);
-    gateway::server server(network, journal);
-    std::unique_ptr<gateway::control_channel> fifo;
+/// Opens the door, or takes over the one that the service manager holds open.
+QString open_door(gateway::server& clients, const gateway::endpoint& place) {
+    const auto inherited = gateway::inherited_listener();
+    return inherited ? clients.adopt(*inherited) : clients.listen(place);
+}
 
-    if (!wanted.journal_path.isEmpty()) {
-        const QString reason = journal.open(wanted.journal_path);
-        if (!reason.isEmpty()) {
-            return fail(u"cannot open the journal %1: %2"_s.arg(wanted.journal_path, reason));
-        }
+/// Lets the relay look when another program has changed a message in its store.
+std::unique_ptr<QFileSystemWatcher> watch_nudges(const QString& folder, gateway::relay& relay) {
+    const QString path = gateway::store::nudge_in(folder);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly, QFileDevice::ReadOwner | QFileDevice::WriteOwner)) {
+        gateway::complain(u"%1: %2"_s.arg(path, file.errorString()));
     }
+    auto watcher = std::make_unique<QFileSystemWatcher>(QStringList(path));
+    QObject::connect(watcher.get(), &QFileSystemWatcher::fileChanged,
+                     [&relay] { relay.messages().wake(); });
+    return watcher;
+}
+
+int serve(const gateway::options& wanted) {
+    const gateway::termination_watch termination;
+    const gateway::settings& values = wanted.values;
+    gateway::system_clock time;
+    gateway::store store(values.gateway.state_dir, gateway::store::user::daemon);
+    const auto network = gateway::make_engine(values, time, &store);
+    if (!network) {
+        return fail(gateway::say("this program was built without that engine"));
+    }
+    std::unique_ptr<gateway::control_channel> fifo;
     if (!wanted.control_path.isEmpty()) {
         QString reason;
         const int descriptor = gateway::control_channel::open_fifo(wanted.control_path, reason);
         if (descriptor < 0) {
-            return fail(u"cannot open the FIFO %1: %2"_s.arg(wanted.control_path, reason));
+            return fail(
+                gateway::say("cannot open the FIFO %1: %2").arg(wanted.control_path, reason));
         }
-        fifo = watch_commands(descriptor, network);
+        fifo = watch_commands(descriptor, *network);
     }
-    const QString reason = server.listen(wanted.address, wanted.port);
+    gateway::relay relay(store, *network, time, values);
+    gateway::endpoint door = values.gateway.listen;
+    const QString reason = open_door(relay.clients(), door);
     if (!reason.isEmpty()) {
-        return fail(
-            u"cannot listen on %1: %2"_s.arg(endpoint_text(wanted.address, wanted.port), reason));
+        return fail(gateway::say("cannot listen on %1: %2").arg(endpoint_text(door), reason));
     }
-
-    print(u"listening on %1\n"_s.arg(endpoint_text(wanted.address, server.port())));
-    const auto input = watch_commands(STDIN_FILENO, network);
+    relay.start();
+    door.port = relay.clients().port();
+    gateway::print(gateway::say("listening on %1").arg(endpoint_text(door)) + u'\n');
+    gateway::tell_service_manager("READY=1");
+    const auto nudges = watch_nudges(values.gateway.state_dir, relay);
+    const auto input = watch_commands(STDIN_FILENO, *network);
+    QObject::connect(&termination, &gateway::termination_watch::requested, [&relay] {
+        gateway::tell_service_manager("STOPPING=1");
+        relay.end([] { QCoreApplication::quit(); });
+    });
     return QCoreApplication::exec();
+}
+
+int carry_out(const gateway::options& wanted) {
+    switch (wanted.wanted) {
+    case gateway::task::check:
+        return gateway::check_settings(wanted.values);
+    case gateway::task::list:
+        return gateway::list_messages(wanted);
+    case gateway::task::serve:
+        break;
+    }
+    try {
+        return serve(wanted);
+    } catch (const DataError& error) {
+        return fail(gateway::say("cannot use the store in %1: %2")
+                        .arg(wanted.values.gateway.state_dir, error.detail()));
+    }
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
     fill_standard_streams();
-    // A reader of our output that goes away must not end the gateway.
+    // A reader of our output that goes away must not end the gateway, nor a limit on files.
     std::signal(SIGPIPE, SIG_IGN);
+    survive_file_size_limit();
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(u"smsgateway"_s);
     QCoreApplication::setApplicationVersion(QString::fromLatin1(SMSGATEWAY_VERSION));
     speak_users_language(u"smsgateway"_s);
-    const gateway::termination_watch termination;
-    QObject::connect(&termination, &gateway::termination_watch::requested, &app,
-                     &QCoreApplication::quit);
 
     const auto parsed = gateway::parse_options(QCoreApplication::arguments());
     if (const auto* error = std::get_if<gateway::usage_error>(&parsed)) {
         return fail(error->text);
     }
     if (const auto* printed = std::get_if<gateway::printed_text>(&parsed)) {
-        print(printed->text);
+        gateway::print(printed->text);
         return EXIT_SUCCESS;
     }
-    return serve(std::get<gateway::options>(parsed));
+    return carry_out(std::get<gateway::options>(parsed));
 }

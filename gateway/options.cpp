@@ -3,9 +3,14 @@
 
 #include "gateway/options.h"
 
-#include <QCommandLineParser>
+#include "gateway/message_text.h"
+#include "gateway/relay_rules.h"
+#include "gateway/setting_values.h"
 
-#include <limits>
+#include <QCommandLineParser>
+#include <QDir>
+
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -13,91 +18,111 @@ namespace gateway {
 
 namespace {
 
-void declare_options(QCommandLineParser& parser) {
-    parser.setApplicationDescription(u"Takes text messages from clients to a mobile network."_s);
-    parser.addOptions({
-        {{u"h"_s, u"help"_s}, u"Print this help and exit."_s},
-        {{u"v"_s, u"version"_s}, u"Print the version and exit."_s},
-        {u"listen"_s,
-         u"Serve clients on this address; port 0 takes a free one (default 127.0.0.1:9100)."_s,
-         u"address:port"_s, u"127.0.0.1:9100"_s},
-        {u"backend"_s, u"The network to use; simulator is the only one yet and the default."_s,
-         u"name"_s, u"simulator"_s},
-        {u"fail-rate"_s, u"Probability, 0 to 1, that a message fails (default 0)."_s, u"P"_s,
-         u"0"_s},
-        {u"drop-rate"_s, u"Probability, 0 to 1, that a message gets no verdict (default 0)."_s,
-         u"P"_s, u"0"_s},
-        {u"delay"_s, u"Milliseconds before a verdict (default 0)."_s, u"ms"_s, u"0"_s},
-        {u"journal"_s, u"Append a JSON line for every message to this file."_s, u"file"_s},
-        {u"control"_s,
-         u"Read commands from this FIFO as well as from standard input. The command "
-         "\"recv NUMBER TEXT\" lets a message arrive."_s,
-         u"fifo"_s},
-        {u"echo"_s, u"Answer every sent message with a received one."_s},
-        {u"echo-delay"_s, u"Milliseconds before such an answer (default 1000)."_s, u"ms"_s,
-         u"1000"_s},
-    });
+/// Options that set what the settings file could set, too. An empty value: the option has none.
+struct setting_option {
+    QString name;
+    QString setting;
+    QString help;
+    QString value;
+};
+
+QList<setting_option> setting_options() {
+    return {
+        {u"listen"_s, u"gateway/listen"_s,
+         say("Serve clients on this address; port 0 takes a free one (default 127.0.0.1:9100)."),
+         u"address:port"_s},
+        {u"state"_s, u"gateway/state_dir"_s, say("Keep messages in this folder."), u"folder"_s},
+        {u"backend"_s, u"gateway/engine"_s,
+         say("The network to use: simulator (default), kannel or gammu."), u"name"_s},
+        {u"fail-rate"_s, u"simulator/fail_rate"_s,
+         say("Simulator: probability, 0 to 1, that a message is refused."), u"P"_s},
+        {u"lose-rate"_s, u"simulator/lose_rate"_s,
+         say("Simulator: probability, 0 to 1, that an accepted message is not delivered."), u"P"_s},
+        {u"drop-rate"_s, u"simulator/drop_rate"_s,
+         say("Simulator: probability, 0 to 1, that nothing is heard of a message."), u"P"_s},
+        {u"delay"_s, u"simulator/delay_ms"_s,
+         say("Simulator: milliseconds before a message is accepted."), u"ms"_s},
+        {u"report-delay"_s, u"simulator/report_delay_ms"_s,
+         say("Simulator: milliseconds from then to a report of delivery; 0 is none (default)."),
+         u"ms"_s},
+        {u"echo"_s,
+         u"simulator/echo"_s,
+         say("Simulator: answer every accepted message with a received one."),
+         {}},
+        {u"echo-delay"_s, u"simulator/echo_delay_ms"_s,
+         say("Simulator: milliseconds before such an answer (default 1000)."), u"ms"_s},
+    };
 }
 
-// Reads option values one after another and keeps the first complaint.
-class value_reader {
-public:
-    explicit value_reader(const QCommandLineParser& parser) : parser_(parser) {}
+void declare_options(QCommandLineParser& parser) {
+    parser.setApplicationDescription(say("Takes text messages from clients to a mobile network."));
+    parser.addPositionalArgument(
+        u"command"_s,
+        say(R"(Nothing to serve, "check" to try the settings, "list" to show messages.)"),
+        u"[check|list]"_s);
+    parser.addOptions({
+        {{u"h"_s, u"help"_s}, say("Print this help and exit.")},
+        {{u"v"_s, u"version"_s}, say("Print the version and exit.")},
+        {u"config"_s, say("Read the settings from this file."), u"file"_s},
+        {u"control"_s,
+         say("Read commands from this FIFO as well as from standard input. The simulator's command "
+             "\"recv NUMBER TEXT\" lets a message arrive."),
+         u"fifo"_s},
+        {u"json"_s, say("List: a line of JSON for every message.")},
+        {u"in-state"_s, say("List: only messages in this state."), u"state"_s},
+    });
+    for (const setting_option& one : setting_options()) {
+        parser.addOption(one.value.isEmpty() ? QCommandLineOption(one.name, one.help)
+                                             : QCommandLineOption(one.name, one.help, one.value));
+    }
+}
 
-    [[nodiscard]] const QString& error() const { return error_; }
+/// Where the system keeps the state of a service, or else of a user's programs.
+QString default_state_dir() {
+    QString of_service = qEnvironmentVariable("STATE_DIRECTORY");
+    if (!of_service.isEmpty()) {
+        return of_service;
+    }
+    const QString of_user =
+        qEnvironmentVariable("XDG_STATE_HOME", QDir::home().filePath(u".local/state"_s));
+    return QDir(of_user).filePath(u"smsgateway"_s);
+}
 
-    void refuse(const QString& name, const QString& expected) {
-        if (error_.isEmpty()) {
-            error_ = u"--%1 %2: expected %3"_s.arg(name, parser_.value(name), expected);
+QStringList apply_options(const QCommandLineParser& parser, settings& values) {
+    QStringList faults;
+    for (const setting_option& one : setting_options()) {
+        if (parser.isSet(one.name)) {
+            const QString value = one.value.isEmpty() ? u"yes"_s : parser.value(one.name);
+            const QString expected = apply_setting(values, one.setting, value);
+            if (!expected.isEmpty()) {
+                faults.append(say("--%1 %2: expected %3").arg(one.name, value, expected));
+            }
         }
     }
-
-    double rate(const QString& name) {
-        bool ok = false;
-        const double value = parser_.value(name).toDouble(&ok);
-        // Written so that "nan" is refused too.
-        if (!(ok && value >= 0 && value <= 1)) {
-            refuse(name, u"a probability from 0 to 1"_s);
-        }
-        return value;
-    }
-
-    std::chrono::milliseconds duration(const QString& name) {
-        bool ok = false;
-        const int value = parser_.value(name).toInt(&ok);
-        if (!ok || value < 0) {
-            refuse(name, u"milliseconds, 0 to %1"_s.arg(std::numeric_limits<int>::max()));
-        }
-        return std::chrono::milliseconds(value);
-    }
-
-    void endpoint(const QString& name, QHostAddress& address, quint16& port) {
-        const QString value = parser_.value(name);
-        const qsizetype colon = value.lastIndexOf(u':');
-        QString host = value.left(colon);
-        if (host.startsWith(u'[') && host.endsWith(u']')) {
-            host = host.sliced(1, host.size() - 2);
-        }
-        bool ok = false;
-        port = QStringView(value).sliced(colon + 1).toUShort(&ok);
-        if (colon < 0 || !ok || !address.setAddress(host)) {
-            refuse(name, u"an IP address, a colon and a port from 0 to 65535"_s);
+    for (const QString& name : {u"config"_s, u"control"_s, u"state"_s}) {
+        if (parser.isSet(name) && parser.value(name).isEmpty()) {
+            faults.append(say("--%1: expected the name of a file").arg(name));
         }
     }
-
-    // An option that may be left out, but not be given empty.
-    QString path(const QString& name) {
-        QString value = parser_.value(name);
-        if (parser_.isSet(name) && value.isEmpty()) {
-            refuse(name, u"the name of a file"_s);
-        }
-        return value;
+    const QString state = parser.value(u"in-state"_s);
+    if (parser.isSet(u"in-state"_s) && !state_named(state)) {
+        faults.append(
+            say("--in-state %1: expected one of: %2").arg(state, state_names().join(u", "_s)));
     }
+    return faults;
+}
 
-private:
-    const QCommandLineParser& parser_;
-    QString error_;
-};
+std::optional<task> task_named(const QStringList& words) {
+    if (words.isEmpty()) {
+        return task::serve;
+    }
+    if (words.size() > 1) {
+        return std::nullopt;
+    }
+    return words.first() == u"check"  ? std::optional(task::check)
+           : words.first() == u"list" ? std::optional(task::list)
+                                      : std::nullopt;
+}
 
 } // namespace
 
@@ -114,27 +139,30 @@ std::variant<options, printed_text, usage_error> parse_options(const QStringList
         return printed_text{u"%1 %2\n"_s.arg(QCoreApplication::applicationName(),
                                              QCoreApplication::applicationVersion())};
     }
-    if (!parser.positionalArguments().isEmpty()) {
-        return usage_error{u"unexpected argument: %1"_s.arg(parser.positionalArguments().first())};
+    const auto wanted = task_named(parser.positionalArguments());
+    if (!wanted) {
+        return usage_error{
+            say("unexpected argument: %1").arg(parser.positionalArguments().join(u' '))};
     }
-
-    value_reader values(parser);
-    options wanted;
-    values.endpoint(u"listen"_s, wanted.address, wanted.port);
-    if (parser.value(u"backend"_s) != u"simulator"_s) {
-        values.refuse(u"backend"_s, u"simulator"_s);
+    options result{.wanted = *wanted,
+                   .values = {},
+                   .control_path = parser.value(u"control"_s),
+                   .json = parser.isSet(u"json"_s),
+                   .state = parser.value(u"in-state"_s)};
+    QStringList faults;
+    if (parser.isSet(u"config"_s)) {
+        settings_reading read = read_settings(parser.value(u"config"_s));
+        result.values = read.values;
+        faults = read.faults;
     }
-    wanted.simulator = {.fail_rate = values.rate(u"fail-rate"_s),
-                        .drop_rate = values.rate(u"drop-rate"_s),
-                        .delay = values.duration(u"delay"_s),
-                        .echo = parser.isSet(u"echo"_s),
-                        .echo_delay = values.duration(u"echo-delay"_s)};
-    wanted.journal_path = values.path(u"journal"_s);
-    wanted.control_path = values.path(u"control"_s);
-    if (!values.error().isEmpty()) {
-        return usage_error{values.error()};
+    faults += apply_options(parser, result.values);
+    if (!faults.isEmpty()) {
+        return usage_error{faults.join(u'\n')};
     }
-    return wanted;
+    if (result.values.gateway.state_dir.isEmpty()) {
+        result.values.gateway.state_dir = default_state_dir();
+    }
+    return result;
 }
 
 } // namespace gateway

@@ -3,9 +3,8 @@
 
 #pragma once
 
-#include "gateway/simulator_backend.h"
+#include "gateway/settings.h"
 
-#include <QHostAddress>
 #include <QString>
 #include <QStringList>
 
@@ -13,13 +12,16 @@
 
 namespace gateway {
 
-/// What the command line asks for. Empty paths mean that there is no such file.
+/// What is to be done.
+enum class task { serve, check, list };
+
+/// What the command line asks for, the settings file and what it names included.
 struct options {
-    QHostAddress address;
-    quint16 port = 0;
-    simulator_settings simulator;
-    QString journal_path;
-    QString control_path;
+    task wanted = task::serve;
+    settings values;
+    QString control_path; ///< empty: no FIFO
+    bool json = false;
+    QString state; ///< of the messages to list; empty: all
 };
 
 /// Text to print instead of serving: the help or the version.
@@ -27,7 +29,7 @@ struct printed_text {
     QString text;
 };
 
-/// Why the command line makes no sense.
+/// Why the command line or the settings make no sense, a line for each fault.
 struct usage_error {
     QString text;
 };

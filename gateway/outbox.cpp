@@ -7,35 +7,67 @@
 
 namespace gateway {
 
-outbox::outbox(std::chrono::milliseconds gap) {
-    gap_.setTimerType(Qt::PreciseTimer);
-    gap_.setSingleShot(true);
-    gap_.setInterval(gap);
-    connect(&gap_, &QTimer::timeout, this, &outbox::end_gap);
+outbox::outbox(clock& time, std::function<void(verdict)> write_answer,
+               std::function<void()> write_received)
+    : clock_(time),
+      write_answer_(std::move(write_answer)),
+      write_received_(std::move(write_received)),
+      due_(time.make_alarm([this] { write_due(); })),
+      last_at_(time.steady() - long_pause.count()) {}
+
+void outbox::answer(verdict result) {
+    answer_ = result;
+    write_due();
 }
 
-void outbox::push(const frame& next) {
-    queue_.push_back(next);
-    send_due();
+bool outbox::withdraw_answer() {
+    return std::exchange(answer_, std::nullopt).has_value();
 }
 
-void outbox::end_gap() {
-    gap_.stop();
-    send_due();
+void outbox::bring() {
+    received_ = true;
+    write_due();
 }
 
-bool outbox::may_send(const frame& next) const {
-    return !gap_.isActive() || (last_was_verdict_ && std::holds_alternative<verdict>(next));
-}
-
-void outbox::send_due() {
-    while (!queue_.empty() && may_send(queue_.front())) {
-        const frame next = std::move(queue_.front());
-        queue_.pop_front();
-        last_was_verdict_ = std::holds_alternative<verdict>(next);
-        gap_.start();
-        emit due(next);
+void outbox::heard() {
+    if (received_ && !answer_) {
+        const bool at_once = answered_at_ && clock_.steady() - *answered_at_ <= short_pause.count();
+        write_received_now(at_once ? short_pause : long_pause);
     }
+}
+
+void outbox::hurry() {
+    if (answer_) {
+        write_answer_now();
+    }
+}
+
+void outbox::write_due() {
+    const qint64 now = clock_.steady();
+    if (answer_ && now >= answer_from_) {
+        write_answer_now();
+    }
+    const qint64 received_from = last_at_ + long_pause.count();
+    if (received_ && !answer_ && now >= received_from) {
+        write_received_now(long_pause);
+    }
+    if (answer_ || received_) {
+        due_->set(std::chrono::milliseconds(
+            (answer_ ? answer_from_ : last_at_ + long_pause.count()) - now));
+    }
+}
+
+void outbox::write_answer_now() {
+    last_at_ = clock_.steady();
+    answered_at_ = last_at_;
+    write_answer_(*std::exchange(answer_, std::nullopt));
+}
+
+void outbox::write_received_now(std::chrono::milliseconds pause) {
+    received_ = false;
+    last_at_ = clock_.steady();
+    answer_from_ = last_at_ + pause.count();
+    write_received_();
 }
 
 } // namespace gateway

@@ -3,50 +3,55 @@
 
 #pragma once
 
+#include "gateway/clock.h"
 #include "gateway/wire.h"
 
-#include <QObject>
-#include <QTimer>
-
-#include <chrono>
-#include <deque>
-#include <variant>
+#include <optional>
 
 namespace gateway {
 
-/// The frames on their way to one client, in order. The client takes one arrival for one frame,
-/// so a gap keeps a received message apart from its neighbours; a verdict after a verdict needs
-/// none, because the client writes its next message only when it has the last verdict.
-class outbox : public QObject {
-    Q_OBJECT
-
+/// The frames on their way to one client. The client takes one arrival for one frame, and its
+/// window may be busy, so whatever is written before it has read the last frame may be lost. That
+/// it has read everything is known at one moment: when its next message comes, which it sends when
+/// it has read the last answer. A received message goes out at such a moment, or after a pause; an
+/// answer that follows it waits.
+class outbox {
 public:
-    /// What a client can be sent.
-    using frame = std::variant<verdict, received_message>;
+    /// The pause around a received message; the client may be busy for that long.
+    static constexpr std::chrono::milliseconds long_pause{1'000};
+    /// The same while the client answers within it.
+    static constexpr std::chrono::milliseconds short_pause{100};
 
-    /// Long enough for two frames to arrive apart on a busy machine.
-    static constexpr std::chrono::milliseconds default_gap{30};
+    /// What writes an answer, and what writes the received message that waits.
+    outbox(clock& time, std::function<void(verdict)> write_answer,
+           std::function<void()> write_received);
 
-    /// An outbox that leaves at least `gap` around a received message.
-    explicit outbox(std::chrono::milliseconds gap = default_gap);
-
-    /// Queues a frame; emits due at once if nothing keeps it back.
-    void push(const frame& next);
-
-    /// Ends the gap after the last frame and emits what was kept back by it.
-    void end_gap();
-
-signals:
-    /// The frame is to be written now.
-    void due(const gateway::outbox::frame& next);
+    /// Writes the answer now or after the pause behind a received message.
+    void answer(verdict result);
+    /// Takes an answer back that is not written yet; true if there was one.
+    bool withdraw_answer();
+    /// Lets one received message be written, when it may.
+    void bring();
+    [[nodiscard]] bool has_received() const { return received_; }
+    /// The client has sent a frame.
+    void heard();
+    /// Writes what waits for its pause, because the end comes.
+    void hurry();
 
 private:
-    [[nodiscard]] bool may_send(const frame& next) const;
-    void send_due();
+    void write_due();
+    void write_answer_now();
+    void write_received_now(std::chrono::milliseconds pause);
 
-    std::deque<frame> queue_;
-    QTimer gap_;
-    bool last_was_verdict_ = false;
+    clock& clock_;
+    std::function<void(verdict)> write_answer_;
+    std::function<void()> write_received_;
+    std::unique_ptr<alarm> due_;
+    std::optional<verdict> answer_;
+    bool received_ = false;
+    qint64 last_at_;
+    std::optional<qint64> answered_at_;
+    qint64 answer_from_ = 0;
 };
 
 } // namespace gateway

@@ -4,22 +4,50 @@
 #include "gateway/server.h"
 
 #include "gateway/console.h"
+#include "gateway/message_text.h"
+#include "gateway/system_calls.h"
 
-#include <QPointer>
-
-#include <utility>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace gateway {
 
-server::server(instant_backend& network, journal& log) : network_(network), journal_(log) {
+namespace {
+
+/// Files and sockets that are none of a client's: the store, the engine's, the callbacks'.
+constexpr int other_descriptors = 100;
+
+/// Who waits at the door when the gateway wakes up is let in within this time.
+constexpr std::chrono::milliseconds letting_in = 1s;
+
+} // namespace
+
+server::server(intake& taking, postman& received, clock& time, int links_per_address)
+    : intake_(taking),
+      postman_(received),
+      clock_(time),
+      links_per_address_(links_per_address),
+      most_links_(std::clamp(descriptor_limit() - other_descriptors, 10, max_clients)),
+      stillness_(time, [this] { distrust_all(); }),
+      accept_again_(time.make_alarm([this] { listener_.resumeAccepting(); })) {
     connect(&listener_, &QTcpServer::newConnection, this, &server::accept_clients);
-    network_.set_receive_handler([this](const auto& message) { receive(message); });
+    // The one that cannot be let in would be announced again and again.
+    connect(&listener_, &QTcpServer::acceptError, this, [this] {
+        listener_.pauseAccepting();
+        drop_silent({}, say("no file is free for another client"));
+        accept_again_->set(1s);
+    });
 }
 
-QString server::listen(const QHostAddress& address, quint16 port) {
-    return listener_.listen(address, port) ? QString() : listener_.errorString();
+QString server::listen(const endpoint& place) {
+    return listener_.listen(place.address, place.port) ? QString() : listener_.errorString();
+}
+
+QString server::adopt(qintptr listener) {
+    trusted_from_ = clock_.steady() + letting_in.count();
+    return listener_.setSocketDescriptor(listener) ? QString() : listener_.errorString();
 }
 
 quint16 server::port() const {
@@ -28,83 +56,112 @@ quint16 server::port() const {
 
 void server::accept_clients() {
     while (QTcpSocket* socket = listener_.nextPendingConnection()) {
-        if (links_.size() < max_clients) {
+        const QString client = socket->peerAddress().toString();
+        const bool has_room =
+            (count_links(client) < links_per_address_ ||
+             drop_silent(client, say("too many links from %1").arg(client))) &&
+            (links_.size() < most_links_ || drop_silent({}, say("too many links")));
+        if (has_room) {
             add_client(socket);
         } else {
-            journal_.record_disconnection(u"too many clients"_s);
+            complain(say("a client at %1 is turned away: too many links").arg(client));
             socket->abort();
             socket->deleteLater();
         }
     }
 }
 
+int server::count_links(const QString& client) const {
+    return static_cast<int>(
+        std::count_if(links_.begin(), links_.end(),
+                      [&client](const client_link* link) { return link->client() == client; }));
+}
+
+bool server::drop_silent(const QString& client, const QString& reason) {
+    const auto silent = std::find_if(links_.begin(), links_.end(), [&](const client_link* link) {
+        return !link->has_spoken() && (client.isEmpty() || link->client() == client);
+    });
+    if (silent == links_.end()) {
+        return false;
+    }
+    (*silent)->drop(reason);
+    return true;
+}
+
 void server::add_client(QTcpSocket* socket) {
-    auto* link = new client_link(socket, this);
+    auto* link = new client_link(socket, clock_, this);
+    connect(link, &client_link::arriving, this, [this] { stillness_.check(); });
     connect(link, &client_link::frame_read, this,
-            [this, link](const QByteArray& frame) { submit(link, frame); });
-    connect(link, &client_link::message_sent, this, &server::confirm_delivery);
+            [this, link](const QByteArray& frame, qint64 read_at) {
+                take_frame(link, frame, read_at);
+            });
+    connect(link, &client_link::answer_confirmed, this,
+            [this](message_id id) { intake_.confirm(id); });
+    connect(link, &client_link::answer_left_open, this,
+            [this, link](message_id id) { intake_.leave_open(link->client(), id); });
     connect(link, &client_link::closed, this,
             [this, link](const QString& reason) { remove_client(link, reason); });
     links_.append(link);
-    deliver_next();
+    intake_.count_links(link->client(), count_links(link->client()));
+    if (clock_.steady() < trusted_from_) {
+        link->distrust();
+    }
+    postman_.add(link);
 }
 
 void server::remove_client(client_link* link, const QString& reason) {
     if (!reason.isEmpty()) {
-        journal_.record_disconnection(reason);
-    }
-    if (link == links_.first()) {
-        delivering_ = false;
+        complain(say("a client at %1 is disconnected: %2").arg(link->client(), reason));
     }
     links_.removeOne(link);
+    intake_.count_links(link->client(), count_links(link->client()));
     link->deleteLater();
-    deliver_next();
+    postman_.remove(link);
+    if (links_.isEmpty()) {
+        emit emptied();
+    }
 }
 
-void server::submit(client_link* link, const QByteArray& frame) {
-    const auto message = parse_submission(frame);
-    if (!message) {
-        journal_.record_unreadable(frame);
-        link->settle(verdict::failed);
+void server::take_frame(client_link* link, const QByteArray& frame, qint64 read_at) {
+    stillness_.busy();
+    open_lost_answers(link);
+    link->answer(intake_.take(link->client(), frame, read_at, link->release_answer()));
+}
+
+/// A client that speaks on a new link has perhaps not read the answer on its way over an old one,
+/// whose end the system has not noticed yet.
+void server::open_lost_answers(const client_link* link) {
+    for (client_link* other : std::as_const(links_)) {
+        if (other != link && other->client() == link->client() && other->is_answer_under_way()) {
+            intake_.leave_open(link->client(), other->release_answer()->id);
+        }
+    }
+}
+
+void server::distrust_all() {
+    complain(say("the gateway stood still: what came meanwhile is refused"));
+    trusted_from_ = clock_.steady() + letting_in.count();
+    for (client_link* link : QList(links_)) {
+        link->distrust();
+    }
+}
+
+void server::end(const std::function<void()>& ended) {
+    listener_.close();
+    ended_ = clock_.make_alarm(ended);
+    if (links_.isEmpty()) {
+        ended_->set(0ms);
         return;
     }
-    // The client may be gone when the outcome comes; the journal has it all the same.
-    network_.submit(*message, [this, client = QPointer(link), message = *message](auto result) {
-        journal_.record(message, result);
-        if (client) {
-            client->settle(result);
+    // What has already come is still taken and answered.
+    end_links_ = clock_.make_alarm([this] {
+        for (client_link* link : QList(links_)) {
+            link->end();
         }
+        ended_->set(3s);
     });
-}
-
-void server::receive(const received_message& message) {
-    if (waiting_.size() >= max_waiting) {
-        // One line until there is room again, or a burst would flood standard error.
-        if (!std::exchange(losing_, true)) {
-            complain(u"too many messages wait for a client, further ones are lost"_s);
-        }
-        return;
-    }
-    waiting_.push_back(message);
-    deliver_next();
-}
-
-void server::confirm_delivery(const received_message& message) {
-    journal_.record(message);
-    waiting_.pop_front();
-    delivering_ = false;
-    losing_ = false;
-    deliver_next();
-}
-
-// A message stays at the head of the queue until it is written, so that the next client gets it
-// if this one leaves before.
-void server::deliver_next() {
-    if (delivering_ || waiting_.empty() || links_.isEmpty()) {
-        return;
-    }
-    delivering_ = true;
-    links_.first()->send(waiting_.front());
+    end_links_->set(50ms);
+    connect(this, &server::emptied, this, [this] { ended_->set(0ms); });
 }
 
 } // namespace gateway

@@ -4,54 +4,68 @@
 #pragma once
 
 #include "gateway/client_link.h"
-#include "gateway/instant_backend.h"
-#include "gateway/journal.h"
+#include "gateway/intake.h"
+#include "gateway/postman.h"
+#include "gateway/stillness.h"
 
-#include <QHostAddress>
 #include <QList>
 #include <QObject>
 #include <QTcpServer>
 
-#include <deque>
-
 namespace gateway {
 
-/// Serves the clients: their messages go to the network and come back as verdicts; a message from
-/// the network goes to the client that connected first, or waits until there is one.
+/// Serves the clients: their frames go to the intake and are answered, what the postman has goes
+/// out to them. Holds how many there may be.
 class server : public QObject {
     Q_OBJECT
 
 public:
-    /// Received messages that may wait for a client; further ones are lost.
-    static constexpr std::size_t max_waiting = 1'000;
-    /// Clients served at once; leaves room under the usual limit of 1,024 open files.
-    static constexpr qsizetype max_clients = 900;
+    /// Clients served at once, less where the system allows this process fewer open files.
+    static constexpr int max_clients = 500;
 
-    /// A server between clients and the network. Both the network and the journal outlive it.
-    server(instant_backend& network, journal& log);
+    /// All that is handed in outlives the server.
+    server(intake& taking, postman& received, clock& time, int links_per_address);
 
     /// Listens; port 0 takes any free one. Gives the reason if it cannot, else nothing.
-    [[nodiscard]] QString listen(const QHostAddress& address, quint16 port);
+    [[nodiscard]] QString listen(const endpoint& place);
+    /// Listens on a socket that already does. What its clients sent while nobody read may be
+    /// several frames in one piece, and is not trusted.
+    [[nodiscard]] QString adopt(qintptr listener);
 
     /// The port it listens on.
     [[nodiscard]] quint16 port() const;
+
+    /// Lets nobody in any more, answers what has come and ends every link in order. `ended` is
+    /// called when all are gone, or after a time.
+    void end(const std::function<void()>& ended);
+
+signals:
+    /// The last link is gone.
+    void emptied();
 
 private:
     void accept_clients();
     void add_client(QTcpSocket* socket);
     void remove_client(client_link* link, const QString& reason);
-    void submit(client_link* link, const QByteArray& frame);
-    void receive(const received_message& message);
-    void confirm_delivery(const received_message& message);
-    void deliver_next();
+    /// Makes room by dropping a link that never sent a frame; false if there is none.
+    bool drop_silent(const QString& client, const QString& reason);
+    [[nodiscard]] int count_links(const QString& client) const;
+    void take_frame(client_link* link, const QByteArray& frame, qint64 read_at);
+    void open_lost_answers(const client_link* link);
+    void distrust_all();
 
-    instant_backend& network_;
-    journal& journal_;
+    intake& intake_;
+    postman& postman_;
+    clock& clock_;
+    int links_per_address_;
+    int most_links_;
     QTcpServer listener_;
     QList<client_link*> links_;
-    std::deque<received_message> waiting_;
-    bool delivering_ = false;
-    bool losing_ = false;
+    stillness stillness_;
+    qint64 trusted_from_ = 0; ///< what new clients have sent before they are let in
+    std::unique_ptr<alarm> accept_again_;
+    std::unique_ptr<alarm> end_links_;
+    std::unique_ptr<alarm> ended_;
 };
 
 } // namespace gateway

@@ -136,7 +136,7 @@ constexpr std::array drivers{
 
 struct setting {
     QStringView name;
-    QString (*apply)(settings& all, const QString& value);
+    QString (*apply)(settings& all, const QString& value) = nullptr;
 };
 
 // clang-format off

@@ -3,6 +3,8 @@
 
 #include "gateway/wire.h"
 
+#include "gateway/numbers.h"
+
 #include <QtEndian>
 
 #include <algorithm>
@@ -21,17 +23,19 @@ bool are_digits(QStringView text) {
     return !text.isEmpty() && std::all_of(text.begin(), text.end(), is_digit);
 }
 
-// Reads a frame whose length takes the first `digits` characters.
-std::optional<submission> parse_with(QStringView frame, qsizetype digits) {
+// What the first `digits` characters say is the mobile; nothing if they are no length.
+std::optional<QStringView> mobile_field(QStringView frame, qsizetype digits) {
     if (frame.size() < digits || !are_digits(frame.first(digits))) {
         return std::nullopt;
     }
     const qsizetype length = frame.first(digits).toInt();
     const QStringView rest = frame.sliced(digits);
-    if (rest.size() < length || !is_number(rest.first(length))) {
-        return std::nullopt;
-    }
-    return submission{rest.first(length).toString(), rest.sliced(length).toString()};
+    return rest.size() < length ? std::nullopt : std::optional(rest.first(length));
+}
+
+bool looks_like_number(QStringView field) {
+    const QString bare = bare_number(field);
+    return are_digits(bare.startsWith(u'+') ? QStringView(bare).sliced(1) : bare);
 }
 
 QString with_length(const QString& field) {
@@ -39,10 +43,6 @@ QString with_length(const QString& field) {
 }
 
 } // namespace
-
-bool is_number(QStringView text) {
-    return are_digits(text.startsWith(u'+') ? text.sliced(1) : text);
-}
 
 QByteArray encode_text(QStringView text) {
     if (text.isEmpty()) {
@@ -68,10 +68,17 @@ std::optional<submission> parse_submission(const QByteArray& frame) {
         return std::nullopt;
     }
     const QString text = decode_text(frame);
-    if (auto message = parse_with(text, 2)) {
-        return message;
+    for (const qsizetype digits : {2, 1}) {
+        const auto field = mobile_field(text, digits);
+        if (!field || !looks_like_number(*field)) {
+            continue;
+        }
+        if (!is_number(bare_number(*field))) {
+            return std::nullopt;
+        }
+        return submission{field->toString(), text.sliced(digits + field->size())};
     }
-    return parse_with(text, 1);
+    return std::nullopt;
 }
 
 QString verdict_code(verdict result) {

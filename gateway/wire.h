@@ -12,7 +12,7 @@
 
 namespace gateway {
 
-/// A message a client wants sent.
+/// A message a client wants sent. The mobile is as it was typed: a number with blanks and dashes.
 struct submission {
     QString mobile;
     QString text;
@@ -31,9 +31,6 @@ enum class verdict { sent, failed };
 /// The sender's length travels as two decimal digits.
 inline constexpr qsizetype max_sender_length = 99;
 
-/// True for one or more ASCII digits, optionally after one '+'.
-[[nodiscard]] bool is_number(QStringView text);
-
 /// The UTF-16LE bytes of the text, without a byte order mark.
 [[nodiscard]] QByteArray encode_text(QStringView text);
 
@@ -41,7 +38,8 @@ inline constexpr qsizetype max_sender_length = 99;
 [[nodiscard]] QString decode_text(const QByteArray& bytes);
 
 /// Reads a client's frame: the length of the mobile, the mobile, the text. Two digits of length
-/// win over one when that many characters follow and are a number. Nothing if neither fits.
+/// win over one when that many characters follow and are digits, dashes and blanks: if they are
+/// then no number, one digit is not tried. Nothing if neither fits.
 [[nodiscard]] std::optional<submission> parse_submission(const QByteArray& frame);
 
 /// The character that tells a verdict: "1" for sent, "2" for failed.

@@ -9,7 +9,13 @@ bound_statement::bound_statement(SqliteDatabase& database, const QString& sql)
     : database_(database), statement_(database.prepare(sql)) {}
 
 void bound_statement::run(const QVariantList& values) {
-    sqlite3_reset(statement_.get());
+    start(values);
+    while (next()) {
+    }
+}
+
+void bound_statement::start(const QVariantList& values) {
+    stop();
     for (qsizetype i = 0; i < values.size(); ++i) {
         const QVariant& value = values.at(i);
         const int place = static_cast<int>(i) + 1;
@@ -26,6 +32,35 @@ void bound_statement::run(const QVariantList& values) {
             sqlite3_bind_int64(statement_.get(), place, value.toLongLong());
         }
     }
-    while (database_.step(statement_)) {
+}
+
+bool bound_statement::next() {
+    try {
+        if (database_.step(statement_)) {
+            return true;
+        }
+    } catch (...) {
+        stop();
+        throw;
     }
+    stop();
+    return false;
+}
+
+void bound_statement::stop() noexcept {
+    sqlite3_reset(statement_.get());
+}
+
+qint64 bound_statement::integer(int column) const {
+    return sqlite3_column_int64(statement_.get(), column);
+}
+
+QString bound_statement::text(int column) const {
+    // The text first: asking for it may be what makes its length.
+    const auto* utf8 = reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), column));
+    return QString::fromUtf8(utf8, sqlite3_column_bytes(statement_.get(), column));
+}
+
+bool bound_statement::is_null(int column) const {
+    return sqlite3_column_type(statement_.get(), column) == SQLITE_NULL;
 }

@@ -17,6 +17,18 @@ public:
     /// DataError.
     void run(const QVariantList& values);
 
+    /// The same for a statement that gives rows: next() goes to the first of them, then on. Read it
+    /// to its end or stop(), or it holds the file's log.
+    void start(const QVariantList& values);
+    /// True when there is a row; the functions below read it, columns counted from 0. Throws
+    /// DataError.
+    [[nodiscard]] bool next();
+    void stop() noexcept;
+
+    [[nodiscard]] qint64 integer(int column) const;
+    [[nodiscard]] QString text(int column) const;
+    [[nodiscard]] bool is_null(int column) const;
+
 private:
     SqliteDatabase& database_;
     SqliteDatabase::statement statement_;

@@ -26,7 +26,7 @@ fi
 # Received messages can be made by hand: echo "recv 8613912345678 你好" > build/gateway-control
 control=build/gateway-control
 [ -p "$control" ] || mkfifo "$control"
-"$bin/smsgateway" --echo --journal build/gateway-journal.jsonl --control "$control" </dev/null &
+"$bin/smsgateway" --echo --report-delay 2000 --state build/gateway-state --control "$control" </dev/null &
 gateway=$!
 trap 'kill "$gateway" 2>/dev/null; wait "$gateway" 2>/dev/null || true' EXIT
 "$bin/smscrm"

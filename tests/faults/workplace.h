@@ -3,19 +3,17 @@
 
 #pragma once
 
-#include "messaging/gateway_frame.h"
+#include "platform/bound_statement.h"
 #include "platform/connection_pool.h"
 #include "tests/support/test_database.h"
 
-#include <QFile>
-#include <QJsonDocument>
 #include <QProcess>
-#include <QTcpSocket>
 #include <QTest>
 
 #include <csignal>
 #include <cstdio>
 #include <list>
+#include <optional>
 
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -62,7 +60,7 @@ public:
     void signal(int number) const { ::kill(static_cast<pid_t>(processId()), number); }
 };
 
-/// A database with messages to send, the gateway with its journal, the clients, and the figures.
+/// A database with messages to send, the gateway with its store, the clients, and the figures.
 class workplace : public test_database {
 public:
     std::list<process> clients;
@@ -97,8 +95,8 @@ public:
                                     QStringList{folder(), timeout_ms_} + phrase);
     }
 
-    /// The disk of the first client is full, somebody else writes to the database, or the gateway
-    /// is gone; or that is over.
+    /// The disk of the first client is full, somebody else writes to the database, the gateway is
+    /// gone or stands still; or that is over.
     void trouble(const QByteArray& name, bool begins) {
         if (name == "disk full") {
             const rlimit limit{begins ? 0 : RLIM_INFINITY, RLIM_INFINITY};
@@ -106,6 +104,8 @@ public:
             ::prlimit(first, RLIMIT_FSIZE, &limit, nullptr);
         } else if (name == "gateway killed") {
             begins ? static_cast<void>(kills += gateway_->end()) : start_gateway();
+        } else if (name == "gateway stands still") {
+            gateway_->signal(begins ? SIGSTOP : SIGCONT);
         } else if (begins) {
             other_.emplace(path()).execute_script("BEGIN IMMEDIATE");
         } else {
@@ -116,46 +116,27 @@ public:
     /// Waits until the gateway has got so many more messages, or all. A client that ended, as one
     /// does whose link is in error, is started again.
     [[nodiscard]] bool progress(qsizetype more = 1) {
-        read_journal();
-        const qsizetype wanted = received_.size() + more;
-        return wait_for([this, wanted] { return received_.size() >= wanted || lost() == 0; });
+        read_store();
+        const qsizetype wanted = received_ + more;
+        return wait_for([this, wanted] { return received_ >= wanted || lost() == 0; });
     }
-    /// The same until no more are pending than may stay so. All have arrived then, but for what is
-    /// under way when a late answer counted for it, and the database is sound.
-    [[nodiscard]] bool finish(int may_stay = 0) {
+    /// The same until none is pending. All have arrived then, none of them twice or changed, and
+    /// the database is sound.
+    [[nodiscard]] bool finish() {
         const auto pending = QStringLiteral("select count(*) from sendsms where sendisok = 0");
-        return wait_for([&] { return value(pending).toInt() <= may_stay; }) &&
-               QTest::qWaitFor([this] { return read_journal(), lost() == 0; }, 30'000) &&
-               is_sound();
+        return wait_for([&] { return value(pending) == 0; }) &&
+               QTest::qWaitFor([this] { return read_store(), lost() == 0; }, 30'000) &&
+               garbled() == 0 && is_sound();
     }
 
-    /// Puts a stroke into the journal, behind all that was sent so far. What the client had just
-    /// sent over its own connection may come after the first one, but not after the second.
-    void mark_stroke() {
-        QTcpSocket socket;
-        socket.connectToHost(QStringLiteral("127.0.0.1"), static_cast<quint16>(port_));
-        for (int i = 0; i < 2; ++i) {
-            socket.write(
-                gateway_frame::to_bytes(gateway_frame::outgoing(QStringLiteral("1"), stroke_)));
-            socket.waitForReadyRead();
-            socket.readAll();
-            read_journal();
-            strokes_ += last_.remove(stroke_) ? 1 : 0;
-        }
+    /// Messages that the gateway took twice, or handed to its network twice.
+    [[nodiscard]] int repeated() {
+        const auto again =
+            QStringLiteral("SELECT count(*) - count(DISTINCT message) FROM simulated");
+        return static_cast<int>(received_ - texts_.size() + number_in_store(again));
     }
-    [[nodiscard]] int repeated() const {
-        return static_cast<int>(received_.size() - last_.size()) - strokes_;
-    }
-    /// Messages that came again though they had not been the last before a stroke.
-    [[nodiscard]] QStringList needlessly_repeated() const {
-        QStringList texts;
-        for (qsizetype i = 0; i < received_.size(); ++i) {
-            if (last_.value(received_[i], i) != i && received_.value(i + 1) != stroke_) {
-                texts.append(received_[i]);
-            }
-        }
-        return texts;
-    }
+    /// Texts that the gateway took and nobody wrote.
+    [[nodiscard]] int garbled() const { return garbled_; }
 
     /// The database is sound for somebody who opens it now.
     [[nodiscard]] bool is_sound() {
@@ -170,14 +151,11 @@ public:
 private:
     void start_gateway() {
         do {
-            const auto words = QStringLiteral("--listen 127.0.0.1:%1 --journal %2 %3")
-                                   .arg(QString::number(port_), journal_.fileName(), options_);
+            const auto words = QStringLiteral("--listen 127.0.0.1:%1 --state %2 %3")
+                                   .arg(QString::number(port_), state_, options_);
             gateway_ =
                 std::make_unique<process>(QStringLiteral("/../bin/smsgateway"), words.split(u' '));
         } while (gateway_->line().isEmpty() && ++port_ < 32'767);
-        if (!journal_.isOpen()) {
-            journal_.open(QIODevice::ReadOnly);
-        }
     }
 
     bool wait_for(const std::function<bool()>& condition) {
@@ -186,33 +164,47 @@ private:
                 clients.pop_front();
                 start_client();
             }
-            read_journal();
+            read_store();
             return condition();
         };
         return QTest::qWaitFor(reached, 10 * process::watchdog_ms);
     }
 
-    void read_journal() {
-        for (QByteArray line = journal_.readLine(); !line.isEmpty(); line = journal_.readLine()) {
-            // What a slow gateway reads in one go it takes for one message: there are no frames.
-            const QString read = QJsonDocument::fromJson(line)[u"text"].toString();
-            for (const QString& text : read.split(QStringLiteral("1113912345678"))) {
-                last_.insert(text, received_.size());
-                received_.append(text);
-            }
+    SqliteDatabase& store() {
+        if (!store_) {
+            store_.emplace(state_ + QStringLiteral("/relay.db"));
+        }
+        return *store_;
+    }
+    qint64 number_in_store(const QString& sql) {
+        bound_statement statement(store(), sql);
+        return statement.next() ? statement.integer(0) : 0;
+    }
+
+    void read_store() {
+        bound_statement rows(
+            store(), QStringLiteral("SELECT id, text FROM message WHERE id > ? ORDER BY id"));
+        rows.start({last_id_});
+        while (rows.next()) {
+            last_id_ = rows.integer(0);
+            ++received_;
+            const QString text = rows.text(1);
+            texts_.insert(text);
+            garbled_ += text.toInt() >= 1 && text.toInt() <= messages_ ? 0 : 1;
         }
     }
-    [[nodiscard]] int lost() const { return messages_ - static_cast<int>(last_.size()); }
+    [[nodiscard]] int lost() const { return messages_ - static_cast<int>(texts_.size()); }
 
     int messages_;
     QString options_;
     QString timeout_ms_;
     int checks_ = 0;
-    int strokes_ = 0;
-    QString stroke_ = QStringLiteral("-");
-    QStringList received_;
-    QHash<QString, qsizetype> last_; ///< where each text stands last, without strokes
-    QFile journal_{folder() + QStringLiteral("/journal")};
+    qint64 last_id_ = 0;
+    qsizetype received_ = 0;
+    int garbled_ = 0;
+    QSet<QString> texts_;
+    const QString state_ = folder() + QStringLiteral("/gateway");
+    std::optional<SqliteDatabase> store_;
     std::unique_ptr<process> gateway_;
     int port_ = 20'000 + static_cast<int>(QCoreApplication::applicationPid() % 12'000);
     std::optional<SqliteDatabase> other_;

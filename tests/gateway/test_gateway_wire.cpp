@@ -4,6 +4,7 @@
 #include "gateway/frame_joiner.h"
 #include "gateway/outbox.h"
 #include "gateway/wire.h"
+#include "hand_clock.h"
 
 #include <QTest>
 
@@ -21,12 +22,16 @@ private slots:
         QTest::newRow("two digits not a number")
             << u"31234567890123456hello and good bye"_s << u"123|4567890123456hello and good bye"_s;
         QTest::newRow("both fit, two win") << u"1123456789012"_s << u"23456789012|"_s;
+        QTest::newRow("dashes") << u"13138-0013-8000您好"_s << u"138-0013-8000|您好"_s;
+        QTest::newRow("blanks") << u"13138 0013 8000您好"_s << u"138 0013 8000|您好"_s;
+        QTest::newRow("short code") << u"510086查"_s << u"10086|查"_s;
         QTest::newRow("plus") << u"14+8613912345678x"_s << u"+8613912345678|x"_s;
         QTest::newRow("text of all kinds")
             << u"11139123456782020你好😀\n"_s << u"13912345678|2020你好😀\n"_s;
         for (const QString& refused :
              {u""_s, u"1"_s, u"9123"_s, u"Hello"_s, u"5Helloworld"_s, u"1+text"_s, u"31+2text"_s,
-              u"\uFEFF1113912345678Hello"_s, u"９123456789hi"_s}) {
+              u"\uFEFF1113912345678Hello"_s, u"９123456789hi"_s, u"113"_s, u"212hi"_s,
+              u"10---------12"_s, u"31"_s + QString(31, u'1')}) {
             QTest::newRow(qPrintable(refused)) << refused << QString();
         }
     }
@@ -49,41 +54,88 @@ private slots:
     }
 
     void joins() {
-        gateway::frame_joiner joiner(1h);
+        hand_clock clock;
+        gateway::frame_joiner joiner(clock);
         QStringList frames;
         connect(&joiner, &gateway::frame_joiner::frame_read, this,
                 [&](const QByteArray& frame) { frames.append(QString::number(frame.size())); });
-        // The frames' sizes; a bar stands for the pause behind the arrivals.
+        connect(&joiner, &gateway::frame_joiner::frame_refused, this,
+                [&] { frames.append(u"refused"_s); });
+        // The frames' sizes over a link of 536; a bar stands for the pause behind the arrivals.
         const auto joined = [&](const QList<qsizetype>& arrivals) {
             frames.clear();
             for (const qsizetype size : arrivals) {
-                joiner.add(QByteArray(size, 'x'));
+                joiner.add(QByteArray(size, 'x'), 536);
+                clock.advance(gateway::frame_joiner::pause - 1ms);
             }
             frames.append(u"|"_s);
-            joiner.finish();
+            clock.advance(1ms);
             return frames.join(u' ');
         };
         QCOMPARE(joined({36, 40}), u"36 40 |"_s);
         QCOMPARE(joined({17, 19, 4, 37}), u"36 4 | 37"_s);
-        QCOMPARE(joined({1'024, 1'026}), u"1024 | 1026"_s);
-        QCOMPARE(joined({1'048'576}), u"| 1048576"_s);
+        QCOMPARE(joined({534}), u"534 |"_s);
+        QCOMPARE(joined({536, 290}), u"| 826"_s);
+        QCOMPARE(joined({8'192}), u"| 8192"_s);
+        QCOMPARE(joined({8'192, 2}), u"| refused"_s);
+        QCOMPARE(joined({1'048'576}), u"| refused"_s);
         QCOMPARE(joined({1'048'576, 1}), u"|"_s); // a flood
     }
 
+    void spaces_data() {
+        QTest::addColumn<QString>("happens"); // f = frame, v = verdict, r = received, digits = ms
+        QTest::addColumn<QString>("written");
+        QTest::newRow("verdicts need no pause") << u"v v v"_s << u"0v 0v 0v"_s;
+        QTest::newRow("after a verdict") << u"v r 5000"_s << u"0v 1000r"_s;
+        QTest::newRow("after one another") << u"r r 5000"_s << u"0r 1000r"_s;
+        QTest::newRow("a verdict waits") << u"r 10 f v 2000"_s << u"0r 1000v"_s;
+        QTest::newRow("a client that answers at once")
+            << u"f v 20 r f v 120 r f v 2000"_s << u"0v 20r 120v 140r 240v"_s;
+        QTest::newRow("a client that takes its time")
+            << u"f v 500 r f v 2000"_s << u"0v 500r 1500v"_s;
+        QTest::newRow("given up") << u"r f v 10 w f v 2000"_s << u"0r 1000v"_s;
+        QTest::newRow("at the end") << u"r f v 10 h"_s << u"0r 10v"_s;
+    }
+
     void spaces() {
-        gateway::outbox outbox(1h);
-        int written = 0;
-        connect(&outbox, &gateway::outbox::due, this, [&written] { ++written; });
-        outbox.push(gateway::verdict::sent);
-        outbox.push(gateway::verdict::sent);
-        QCOMPARE(written, 2);
-        outbox.push(gateway::received_message{});
-        outbox.push(gateway::verdict::sent); // must not overtake
-        QCOMPARE(written, 2);
-        for (int i = 3; i <= 4; ++i) {
-            outbox.end_gap();
-            QCOMPARE(written, i);
+        QFETCH(QString, happens);
+        hand_clock clock;
+        const qint64 begin = clock.steady();
+        QStringList written;
+        int waiting = 0;
+        const auto note = [&](QChar what) {
+            written.append(QString::number(clock.steady() - begin) + what);
+        };
+        std::unique_ptr<gateway::outbox> outbox;
+        const auto bring = [&] {
+            if (waiting > 0) {
+                --waiting;
+                outbox->bring();
+            }
+        };
+        outbox = std::make_unique<gateway::outbox>(
+            clock, [&](gateway::verdict) { note(u'v'); },
+            [&] {
+                note(u'r');
+                bring();
+            });
+        for (const QString& step : happens.split(u' ')) {
+            if (step == u"f") {
+                outbox->heard();
+            } else if (step == u"v") {
+                outbox->answer(gateway::verdict::sent);
+            } else if (step == u"r") {
+                ++waiting;
+                bring();
+            } else if (step == u"w") {
+                QVERIFY(outbox->withdraw_answer());
+            } else if (step == u"h") {
+                outbox->hurry();
+            } else {
+                clock.advance(std::chrono::milliseconds(step.toInt()));
+            }
         }
+        QTEST(written.join(u' '), "written");
     }
 };
 

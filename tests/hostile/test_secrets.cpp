@@ -29,7 +29,9 @@ private slots:
 
     static void the_gateway_keeps_to_this_machine() {
         const auto wanted = gateway::parse_options({u"smsgateway"_s});
-        QCOMPARE(std::get<gateway::options>(wanted).address, QHostAddress::LocalHost);
+        const auto& values = std::get<gateway::options>(wanted).values;
+        QCOMPARE(values.gateway.listen.address, QHostAddress::LocalHost);
+        QCOMPARE(values.http.listen.address, QHostAddress::LocalHost);
     }
 };
 

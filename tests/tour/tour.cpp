@@ -41,12 +41,14 @@ void run_program(const QString& folder, const QString& login, tour::chapter& wor
     guide::step(u"closed"_s, u"exit status 0"_s, {u"exit status %1"_s.arg(status)});
 }
 
-/// Starts the gateway that lies beside this program, on a port that the client can hold.
-void start_gateway(QProcess& gateway) {
+/// Starts the gateway that lies beside this program, on a port that the client can hold; it keeps
+/// its messages in a folder of its own in this one.
+void start_gateway(QProcess& gateway, const QString& folder) {
     gateway.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     for (int port = 32'767; port > 32'700; --port) {
-        gateway.start(QCoreApplication::applicationDirPath() + u"/smsgateway"_s,
-                      {u"--listen"_s, u"127.0.0.1:%1"_s.arg(port)});
+        gateway.start(
+            QCoreApplication::applicationDirPath() + u"/smsgateway"_s,
+            {u"--listen"_s, u"127.0.0.1:%1"_s.arg(port), u"--state"_s, folder + u"/gateway"_s});
         if (gateway.waitForReadyRead() && gateway.readLine().startsWith("listening on")) {
             return;
         }
@@ -69,7 +71,7 @@ int main(int argc, char* argv[]) {
     const QTemporaryDir folder;
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
     QProcess gateway;
-    start_gateway(gateway);
+    start_gateway(gateway, folder.path());
 
     set_up_toolkit();
     QApplication::setQuitOnLastWindowClosed(false);

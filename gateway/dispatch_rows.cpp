@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "gateway/dispatch_rows.h"
+
+using namespace Qt::StringLiterals;
+
+namespace gateway {
+
+dispatch_rows::dispatch_rows(store& file)
+    : store_(file),
+      queued_(file.database(),
+              u"SELECT id, mobile, number, text, state, since, attempts FROM message WHERE state = "
+              "'queued' AND next_at <= ?1 ORDER BY next_at, id LIMIT ?2"_s),
+      unknown_(file.database(),
+               u"SELECT id, mobile, number, text, state, since, attempts FROM message WHERE state "
+               "= 'unknown' AND next_at <= ?1 ORDER BY next_at, id LIMIT ?2"_s),
+      next_(file.database(),
+            u"SELECT min(next_at) FROM message WHERE state = 'queued' UNION ALL SELECT "
+            "min(next_at) FROM message WHERE state = 'unknown' AND next_at IS NOT NULL"_s),
+      find_(
+          file.database(),
+          u"SELECT id, mobile, number, text, state, since, attempts FROM message WHERE id = ?1"_s),
+      begin_(file.database(), u"UPDATE message SET state = 'handing', since = ?2, next_at = NULL, "
+                              "attempts = attempts + 1 WHERE id = ?1"_s),
+      change_(file.database(),
+              u"UPDATE message SET state = ?2, since = ?3, next_at = ?4, network_ref = "
+              "coalesce(?5, network_ref), reason = coalesce(?6, reason), done_at = ?7 WHERE id = "
+              "?1"_s),
+      put_off_(file.database(), u"UPDATE message SET next_at = ?2 WHERE id = ?1"_s),
+      note_(file.database(), u"INSERT OR IGNORE INTO event (message, at, fate, ref, reason) VALUES "
+                             "(?1, ?2, ?3, ?4, ?5)"_s) {}
+
+QList<message_row> dispatch_rows::read(bound_statement& rows, const QVariantList& values) {
+    QList<message_row> found;
+    rows.start(values);
+    while (rows.next()) {
+        found.append({.id = rows.integer(0),
+                      .mobile = rows.text(1),
+                      .number = rows.text(2),
+                      .text = rows.text(3),
+                      .state = state_named(rows.text(4)).value_or(message_state::dropped),
+                      .since = rows.integer(5),
+                      .attempts = static_cast<int>(rows.integer(6))});
+    }
+    return found;
+}
+
+QList<message_row> dispatch_rows::queued_until(qint64 now, int most) {
+    return read(queued_, {now, most});
+}
+
+QList<message_row> dispatch_rows::unknown_until(qint64 now, int most) {
+    return read(unknown_, {now, most});
+}
+
+std::optional<qint64> dispatch_rows::next_moment() {
+    std::optional<qint64> earliest;
+    next_.start({});
+    while (next_.next()) {
+        if (!next_.is_null(0)) {
+            earliest = std::min(earliest.value_or(next_.integer(0)), next_.integer(0));
+        }
+    }
+    return earliest;
+}
+
+std::optional<message_row> dispatch_rows::find(message_id id) {
+    const QList<message_row> found = read(find_, {id});
+    return found.isEmpty() ? std::nullopt : std::optional(found.first());
+}
+
+void dispatch_rows::begin(message_id id, qint64 now) {
+    begin_.run({id, now});
+}
+
+void dispatch_rows::change(const message_row& before, const message_change& change, qint64 now) {
+    const auto given = [](const QString& text) { return text.isEmpty() ? QVariant() : text; };
+    change_.run({before.id, name_of(change.state),
+                 before.state == change.state ? before.since : now,
+                 change.next_at ? QVariant(*change.next_at) : QVariant(), given(change.ref),
+                 given(change.reason), is_settled(change.state) ? QVariant(now) : QVariant()});
+}
+
+void dispatch_rows::put_off(message_id id, std::optional<qint64> next_at) {
+    put_off_.run({id, next_at ? QVariant(*next_at) : QVariant()});
+}
+
+bool dispatch_rows::note(message_id id, const QString& fate, const QString& ref,
+                         const QString& reason, qint64 now) {
+    const int before = store_.database().total_changes();
+    note_.run({id, now, fate, ref, reason});
+    return store_.database().total_changes() != before;
+}
+
+void dispatch_rows::doubt_handing(qint64 now) {
+    bound_statement(store_.database(), u"UPDATE message SET state = 'unknown', since = ?1, next_at "
+                                       "= ?1 WHERE state = 'handing'"_s)
+        .run({now});
+}
+
+} // namespace gateway

@@ -1,0 +1,411 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "gateway/relay.h"
+#include "hand_backend.h"
+#include "hand_clock.h"
+#include "platform/data_error.h"
+#include "test_client.h"
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <map>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using gateway::fate;
+using gateway::handover_result;
+
+/// The relay with real sockets and a real store; its time and its network are played by hand.
+class test_gateway_relay : public QObject {
+    Q_OBJECT
+
+    // A killed gateway is one that is not ended: the relay goes, the store stays as it is.
+    void start() {
+        relay_.reset();
+        store_.reset();
+        network_ = std::make_unique<hand_backend>();
+        store_ = std::make_unique<gateway::store>(folder_->path(), gateway::store::user::daemon);
+        relay_ = std::make_unique<gateway::relay>(*store_, *network_, clock_, settings_);
+        QCOMPARE(relay_->clients().listen({QHostAddress(QHostAddress::LocalHost), 0}), QString());
+        relay_->start();
+        clock_.advance(0ms);
+    }
+
+    // The rows that a statement gives: the columns of each with colons between, blanks between
+    // rows.
+    QString rows(const QString& sql) {
+        QStringList found;
+        bound_statement statement(store_->database(), sql);
+        while (statement.next()) {
+            found.append(statement.text(0));
+        }
+        return found.join(u' ');
+    }
+
+    test_client& client(const QString& name) {
+        auto& found = clients_[name];
+        if (!found) {
+            found = std::make_unique<test_client>(relay_->clients().port());
+            [&] { QTRY_COMPARE(found->state(), QAbstractSocket::ConnectedState); }();
+        }
+        return *found;
+    }
+
+    int answer_count(const QString& name) {
+        return static_cast<int>(client(name).answers().count(QRegularExpression(u"[12]"_s)));
+    }
+
+    // What a play is made of, one word each.
+    void act(const QString& word) {
+        const QString name = word.left(1);
+        const QString rest = word.mid(2);
+        if (word == u"restart") {
+            clients_.clear();
+            start();
+        } else if (word.startsWith(u'+')) { // time passes
+            clock_.advance(std::chrono::seconds(word.sliced(1).toInt()));
+        } else if (word == u"still") { // the process stands still
+            clock_.stand_still(6s);
+        } else if (word == u"sleep") { // the machine sleeps
+            clock_.sleep(6s);
+        } else if (word.at(1) == u'>') { // a client sends a message and gets its answer
+            const int before = answer_count(name);
+            client(name).send(u"1113912345678"_s + rest);
+            QTRY_COMPARE(answer_count(name), before + 1);
+        } else if (word.at(1) == u'-') { // a client goes, before it reads what is coming
+            client(name).abort();
+            clients_.erase(name);
+            QTRY_VERIFY(relay_->clients().findChildren<gateway::client_link*>().isEmpty());
+        } else {
+            say_of_network(word);
+        }
+    }
+
+    void say_of_network(const QString& word) {
+        static const std::map<QString, handover_result> results{
+            {u"accept"_s, handover_result::accepted},
+            {u"refuse"_s, handover_result::refused},
+            {u"notnow"_s, handover_result::not_now},
+            {u"unknown"_s, handover_result::unknown}};
+        static const std::map<QString, fate> fates{{u"delivered"_s, fate::delivered},
+                                                   {u"undelivered"_s, fate::undelivered}};
+        clock_.advance(100ms); // what is due is handed over
+        if (fates.contains(word)) {
+            QVERIFY(network_->sink->take(gateway::report{.id = 1, .what = fates.at(word)}));
+        } else if (word == u"up" || word == u"down") {
+            network_->up = word == u"up";
+            network_->sink->health_changed();
+        } else {
+            const bool asked = !network_->asked.isEmpty();
+            QVERIFY(asked || !network_->handed.isEmpty());
+            const auto id = asked ? network_->asked.takeFirst() : network_->handed.takeFirst().id;
+            network_->sink->settle(id, {.result = results.at(word)});
+        }
+        clock_.advance(100ms);
+    }
+
+    std::unique_ptr<QTemporaryDir> folder_;
+    hand_clock clock_;
+    gateway::settings settings_;
+    std::unique_ptr<hand_backend> network_;
+    std::unique_ptr<gateway::store> store_;
+    std::unique_ptr<gateway::relay> relay_;
+    std::map<QString, std::unique_ptr<test_client>> clients_;
+
+private slots:
+    void init() {
+        relay_.reset();
+        clients_.clear();
+        settings_ = {};
+        folder_ = std::make_unique<QTemporaryDir>();
+        start();
+    }
+
+    void plays_data() {
+        QTest::addColumn<QString>("play");
+        QTest::addColumn<QString>("messages"); // text:answer:absorbed:state:attempts
+        // One message each, but for what the name tells.
+        QTest::newRow("answered and read") << u"a>x +5"_s << u"x:confirmed:0:handing:1"_s;
+        QTest::newRow("not surely read yet") << u"a>x +4"_s << u"x:owed:0:handing:1"_s;
+        QTest::newRow("read, says the next frame")
+            << u"a>x a>y"_s << u"x:confirmed:0:queued:0 y:owed:0:queued:0"_s;
+        QTest::newRow("meant twice")
+            << u"a>x a>x"_s << u"x:confirmed:0:queued:0 x:owed:0:queued:0"_s;
+        QTest::newRow("meant twice, later")
+            << u"a>x +5 a- a>x"_s << u"x:confirmed:0:handing:1 x:owed:0:queued:0"_s;
+        QTest::newRow("lost answer, repeated") << u"a>x a- b>x"_s << u"x:owed:1:queued:0"_s;
+        QTest::newRow("absorbed once")
+            << u"a>x a- b>x b>x"_s << u"x:confirmed:1:queued:0 x:owed:0:queued:0"_s;
+        QTest::newRow("two lost, both repeated")
+            << u"a>x +5 a>x a- b>x b>x"_s
+            << u"x:confirmed:0:handing:1 x:confirmed:1:queued:0 x:owed:0:queued:0"_s;
+        QTest::newRow("repeated after a restart") << u"a>x restart b>x"_s << u"x:owed:1:queued:0"_s;
+        QTest::newRow("nothing to repeat: quiet")
+            << u"a>x a- b>y +200 b>x"_s
+            << u"x:confirmed:0:handing:1 y:confirmed:0:handing:1 x:owed:0:queued:0"_s;
+        QTest::newRow("still to repeat: busy")
+            << u"a>x a- b>y +100 b>z +100 b>x"_s
+            << u"x:owed:1:handing:1 y:confirmed:0:handing:1 z:confirmed:0:handing:1"_s;
+        QTest::newRow("still to repeat: away") << u"a>x a- +80000 b>x"_s << u"x:owed:1:handing:1"_s;
+        QTest::newRow("a day is too long")
+            << u"a>x a- +90000 b>x"_s << u"x:open:0:handing:1 x:owed:0:queued:0"_s;
+        QTest::newRow("delivered")
+            << u"a>x accept delivered +5"_s << u"x:confirmed:0:delivered:1"_s;
+        QTest::newRow("report before the accept")
+            << u"a>x +1 delivered accept +5"_s << u"x:confirmed:0:delivered:1"_s;
+        QTest::newRow("not now, then again")
+            << u"a>x notnow +1 accept +5"_s << u"x:confirmed:0:accepted:2"_s;
+        QTest::newRow("not now, twice: waits longer")
+            << u"a>x notnow +1 notnow +1"_s << u"x:owed:0:queued:2"_s;
+        QTest::newRow("one waits, others go on")
+            << u"a>x notnow a>y accept"_s << u"x:confirmed:0:queued:1 y:owed:0:accepted:1"_s;
+        QTest::newRow("killed while handing, asked: it has it")
+            << u"a>x +5 restart accept"_s << u"x:confirmed:0:accepted:1"_s;
+        QTest::newRow("killed while handing, asked: it never came")
+            << u"a>x +5 restart notnow +1"_s << u"x:confirmed:0:handing:2"_s;
+        QTest::newRow("asked again, never sent blindly")
+            << u"a>x +5 restart unknown +1 unknown +2 unknown"_s << u"x:confirmed:0:unknown:1"_s;
+        QTest::newRow("a report ends the doubt")
+            << u"a>x +5 restart unknown delivered"_s << u"x:confirmed:0:delivered:1"_s;
+        QTest::newRow("network down") << u"down a>x +600"_s << u"x:confirmed:0:queued:0"_s;
+        QTest::newRow("network up again")
+            << u"down a>x +600 up accept"_s << u"x:confirmed:0:accepted:1"_s;
+    }
+
+    void plays() {
+        QFETCH(QString, play);
+        QFETCH(QString, messages);
+        for (const QString& word : play.split(u' ')) {
+            act(word);
+            QVERIFY2(!QTest::currentTestFailed(), qPrintable(word));
+        }
+        QCOMPARE(rows(u"SELECT text || ':' || answer || ':' || absorbed || ':' || state || ':' || "
+                      "attempts FROM message ORDER BY id"_s),
+                 messages);
+    }
+
+    void holds_what_stays_unknown() {
+        act(u"a>x"_s);
+        act(u"+5"_s);
+        act(u"restart"_s);
+        for (int asked = 0; rows(u"SELECT next_at FROM message"_s) != QString(); ++asked) {
+            QVERIFY(asked < 30);
+            act(u"unknown"_s);
+            act(u"+60"_s);
+        }
+        QCOMPARE(rows(u"SELECT state FROM message"_s), u"unknown"_s);
+        act(u"+86400"_s);
+        QVERIFY(network_->handed.isEmpty() && network_->asked.isEmpty());
+    }
+
+    void keeps_the_window() {
+        network_->room = 2;
+        for (const char* word : {"a>x", "a>y", "a>z"}) {
+            act(QString::fromLatin1(word));
+        }
+        clock_.advance(1s);
+        QCOMPARE(network_->handed.size(), 2);
+        QCOMPARE(network_->handed.first().number, u"+8613912345678"_s);
+        act(u"accept"_s);
+        QCOMPARE(network_->handed.size(), 2); // the next
+        QCOMPARE(network_->handed.last().text, u"z"_s);
+    }
+
+    void refuses_data() {
+        QTest::addColumn<QString>("frame");
+        QTest::newRow("no number") << u"Hello"_s;
+        QTest::newRow("number too short") << u"212hi"_s;
+        QTest::newRow("no text") << u"1113912345678"_s;
+        QTest::newRow("too long") << u"1113912345678"_s + QString(4'096, u'x');
+    }
+
+    void refuses() {
+        QFETCH(QString, frame);
+        client(u"a"_s).send(frame);
+        if (frame.size() > 4'096) {
+            QTest::qWait(0);
+        }
+        QTRY_VERIFY((clock_.advance(500ms), client(u"a"_s).answers() == u"2"_s));
+        QCOMPARE(rows(u"SELECT id FROM message"_s), QString());
+    }
+
+    void keeps_nothing_it_cannot_write() {
+        act(u"a>x"_s);
+        SqliteDatabase other(gateway::store::path_in(folder_->path()),
+                             SqliteDatabase::Mode::existing);
+        store_->database().execute_script("PRAGMA busy_timeout=0");
+        other.execute_script("BEGIN IMMEDIATE");
+        act(u"a>y"_s);
+        QCOMPARE(client(u"a"_s).answers(), u"12"_s);
+        other.execute_script("ROLLBACK");
+        act(u"a>y"_s);
+        QCOMPARE(client(u"a"_s).answers(), u"121"_s);
+    }
+
+    void distrusts_what_came_meanwhile_data() {
+        QTest::addColumn<QStringList>("play");
+        QTest::newRow("stood still") << QStringList{u"a>x"_s, u"still"_s};
+        QTest::newRow("slept, after a quiet hour") << QStringList{u"a>x"_s, u"+3600"_s, u"sleep"_s};
+    }
+
+    void distrusts_what_came_meanwhile() {
+        QFETCH(QStringList, play);
+        for (const QString& word : play) {
+            act(word);
+        }
+        client(u"a"_s).send(u"1113912345678one1113912345679two"_s); // as they lie in one piece
+        QTRY_COMPARE(client(u"a"_s).answers(), u"12"_s);
+        act(u"a>one"_s);
+        QCOMPARE(rows(u"SELECT text FROM message"_s), u"x one"_s);
+    }
+
+    void tells_failures_data() {
+        QTest::addColumn<QString>("play");
+        QTest::addColumn<QString>("notice");
+        QTest::newRow("refused") << u"a>x refuse"_s << u"网络拒绝发送"_s;
+        QTest::newRow("undelivered, told twice")
+            << u"a>x accept undelivered undelivered"_s << u"网络未能送到"_s;
+    }
+
+    void tells_failures() {
+        QFETCH(QString, play);
+        QFETCH(QString, notice);
+        for (const QString& word : play.split(u' ')) {
+            act(word);
+        }
+        clock_.advance(2s);
+        const QRegularExpression told(u"^10130013912345678"_s +
+                                      u"12\\d{12}【未送达】%1：x$"_s.arg(notice));
+        QTRY_VERIFY2(told.match(client(u"a"_s).answers()).hasMatch(),
+                     qPrintable(client(u"a"_s).answers()));
+    }
+
+    void brings_received_messages() {
+        const auto bring = [this](const QString& key, const QString& text) {
+            return network_->sink->take(gateway::incoming_message{
+                key, u"+8613912345678"_s, QDateTime(QDate(2024, 2, 3), QTime(4, 5, 6)), text});
+        };
+        const auto frame = [](const QString& text) {
+            return u"013861391234567812240203040506"_s + text;
+        };
+        for (int i = 1; i <= 7; ++i) {
+            QVERIFY(bring(QString::number(i), u"it's "_s + QString::number(i)));
+        }
+        QVERIFY(bring(u"1"_s, u"again"_s)); // the network was not sure
+        test_client& first = client(u"a"_s);
+        QTRY_COMPARE(first.answers(), frame(u"it’s 1"_s));
+        clock_.advance(1s);
+        QTRY_COMPARE(first.answers(), frame(u"it’s 1"_s) + frame(u"it’s 2"_s));
+        clock_.advance(4s); // the first has surely arrived
+        QTRY_VERIFY(first.answers().contains(u"5"_s + u""_s));
+        act(u"a-"_s);
+        test_client& second = client(u"b"_s);
+        QTRY_VERIFY(second.answers().startsWith(frame(u"it’s "_s)));
+        const int from = second.answers().right(1).toInt();
+        QVERIFY(from == 1 || from == 2);
+        for (int i = 0; i < 40; ++i) {
+            clock_.advance(1s);
+            QTest::qWait(1);
+        }
+        QTRY_VERIFY(second.answers().endsWith(frame(u"it’s 7"_s)));
+        QTRY_COMPARE(
+            (clock_.advance(10s), rows(u"SELECT id FROM received WHERE confirmed_at IS NULL"_s)),
+            QString());
+    }
+
+    void joins_parts() {
+        const auto part = [this](const QString& key, int number, int count, const QString& text) {
+            return network_->sink->take(gateway::incoming_part{
+                {key, u"10086"_s, QDateTime::currentDateTime(), text}, 7, number, count});
+        };
+        const QString texts = u"SELECT text FROM received ORDER BY id"_s;
+        QVERIFY(part(u"a"_s, 2, 2, u"world"_s) && part(u"a"_s, 2, 2, u"world"_s));
+        QCOMPARE(rows(texts), QString());
+        QVERIFY(part(u"b"_s, 1, 2, u"hello"_s) && part(u"b"_s, 1, 2, u"hello"_s));
+        QCOMPARE(rows(texts), u"helloworld"_s);
+        QVERIFY(part(u"c"_s, 1, 3, u"lonely"_s));
+        clock_.advance(48h);
+        QCOMPARE(rows(texts), u"helloworld lonely……"_s);
+    }
+
+    void cleans_what_is_old() {
+        settings_.gateway.keep_days = 2;
+        start();
+        for (const char* word : {"a>old", "accept", "delivered", "a>waiting", "+5"}) {
+            act(QString::fromLatin1(word));
+        }
+        clock_.advance(49h);
+        QCOMPARE(rows(u"SELECT text FROM message"_s), u"waiting"_s);
+        QCOMPARE(rows(u"SELECT message FROM event"_s), QString());
+    }
+
+    void bounds_links() {
+        settings_.gateway.links_per_address = 3;
+        start();
+        act(u"a>x"_s);
+        for (const QString& silent : {u"b"_s, u"c"_s, u"d"_s, u"e"_s}) {
+            client(silent);
+        }
+        QTRY_COMPARE(client(u"b"_s).state(), QAbstractSocket::UnconnectedState);
+        QTRY_COMPARE(client(u"c"_s).state(), QAbstractSocket::UnconnectedState);
+        act(u"a>y"_s);
+        act(u"e>z"_s);
+        client(u"a"_s).write(QByteArray(10'000'000, 'x')); // a flood
+        QTRY_COMPARE(client(u"a"_s).state(), QAbstractSocket::UnconnectedState);
+        act(u"e>z"_s);
+    }
+
+    void ends_in_order() {
+        bool ended = false;
+        act(u"a>x"_s);
+        client(u"a"_s).send(u"1113912345678y"_s); // under way when the end comes
+        relay_->end([&ended] { ended = true; });
+        QTRY_COMPARE(client(u"a"_s).answers(), u"11"_s);
+        clock_.advance(50ms);
+        QTRY_COMPARE(client(u"a"_s).error(), QAbstractSocket::RemoteHostClosedError);
+        QTRY_VERIFY((clock_.advance(1s), ended));
+    }
+
+    void guards_its_store() {
+        const QString path = gateway::store::path_in(folder_->path());
+        QCOMPARE(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), 0);
+        using user = gateway::store::user;
+        QVERIFY_THROWS_EXCEPTION(DataError, gateway::store(folder_->path(), user::daemon));
+        const gateway::store visitor(folder_->path(), user::reader);
+        store_->database().execute(u"PRAGMA user_version = 2"_s);
+        QVERIFY_THROWS_EXCEPTION(DataError, gateway::store(folder_->path(), user::reader));
+    }
+
+    // 100,000 rows must not be slower than 1,000: every step of every message uses an index.
+    void searches_by_index_data() {
+        QTest::addColumn<QString>("where");
+        QTest::newRow("repeat")
+            << u"message WHERE answer = 'open' AND client = 'a' AND digest = 'b' "
+               "AND taken_at > 1 ORDER BY id LIMIT 1"_s;
+        QTest::newRow("due")
+            << u"message WHERE state = 'queued' AND next_at <= 1 ORDER BY next_at, "
+               "id LIMIT 1"_s;
+        QTest::newRow("next") << u"message WHERE state = 'unknown' AND next_at IS NOT NULL"_s;
+        QTest::newRow("old") << u"message WHERE done_at < 1 ORDER BY done_at LIMIT 100"_s;
+        QTest::newRow("to bring")
+            << u"received WHERE confirmed_at IS NULL AND id > 1 ORDER BY id LIMIT 1"_s;
+        QTest::newRow("parts")
+            << u"part WHERE whole IS NULL AND sender = 'a' AND reference = 1 AND "
+               "count = 1 ORDER BY number"_s;
+    }
+
+    void searches_by_index() {
+        QFETCH(QString, where);
+        bound_statement plan(store_->database(), u"EXPLAIN QUERY PLAN SELECT * FROM "_s + where);
+        while (plan.next()) {
+            QVERIFY2(plan.text(3).contains(u"INDEX") && !plan.text(3).contains(u"TEMP B-TREE"),
+                     qPrintable(plan.text(3)));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(test_gateway_relay)
+#include "test_gateway_relay.moc"
