@@ -93,7 +93,8 @@ public:
             ") SELECT '127.0.0.1', '13912345678', '+8613912345678', 'message ' || i, 'd' || i, "
             "unixepoch() * 1000 - i, 'confirmed', 'delivered', unixepoch() * 1000 - i, 1, "
             "unixepoch() * 1000 - i FROM n");
-        database.execute("INSERT INTO event SELECT id, taken_at, 'delivered', '', '' FROM message");
+        database.execute("INSERT INTO event (message, at, fate, ref, reason) SELECT id, taken_at, "
+                         "'delivered', '', '' FROM message");
     }
 
     /// The memory that it has taken at most, in megabytes.

@@ -5,15 +5,39 @@
 
 #include "platform/terminal.h"
 
+#include <QDeadlineTimer>
+
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
 
 namespace gateway {
 
-void complain(const QString& what) {
+namespace {
+
+/// Whoever connects a thousand times a second must not fill the log.
+constexpr int most_lines = 50;
+constexpr std::chrono::seconds within{60};
+
+void write_line(const QString& what) {
     const QByteArray line = terminal_text(u"smsgateway: "_s + what + u'\n');
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+}
+
+} // namespace
+
+void complain(const QString& what) {
+    static QDeadlineTimer period(within);
+    static int lines = 0;
+    if (period.hasExpired()) {
+        period = QDeadlineTimer(within);
+        lines = 0;
+    }
+    if (++lines <= most_lines) {
+        write_line(what);
+    } else if (lines == most_lines + 1) {
+        write_line(u"more of this is left out for a minute"_s);
+    }
 }
 
 void print(const QString& text) {

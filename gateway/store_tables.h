@@ -31,11 +31,11 @@ CREATE INDEX message_queued ON message (next_at, id) WHERE state = 'queued';
 CREATE INDEX message_unknown ON message (next_at, id) WHERE state = 'unknown';
 CREATE INDEX message_done ON message (done_at) WHERE done_at IS NOT NULL;
 CREATE TABLE event (
-    message INTEGER NOT NULL,
-    at INTEGER NOT NULL,
-    fate TEXT NOT NULL,
+    message INTEGER NOT NULL,             -- the key's columns first: SQLite 3.40 takes other orders
+    fate TEXT NOT NULL,                   -- for damage when it checks the file
     ref TEXT NOT NULL,
     reason TEXT NOT NULL,
+    at INTEGER NOT NULL,
     PRIMARY KEY (message, fate, ref, reason)
 ) WITHOUT ROWID;
 CREATE TABLE received (

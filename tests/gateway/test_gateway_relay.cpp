@@ -185,6 +185,7 @@ private slots:
         QCOMPARE(rows(u"SELECT text || ':' || answer || ':' || absorbed || ':' || state || ':' || "
                       "attempts FROM message ORDER BY id"_s),
                  messages);
+        QCOMPARE(rows(u"PRAGMA integrity_check"_s), u"ok"_s);
     }
 
     void holds_what_stays_unknown() {
