@@ -14,6 +14,9 @@ namespace gateway {
 
 namespace {
 
+/// For what a client sent before it left: far more than it has under way.
+constexpr int most_reads = 8;
+
 /// Where the system cannot tell a link's segment: the least that every network carries.
 constexpr qint64 least_segment = 536;
 
@@ -67,6 +70,13 @@ void client_link::refuse() {
     outbox_.answer(verdict::failed);
 }
 
+void client_link::finish_if_left() {
+    if (has_other_end_left(socket_->socketDescriptor())) {
+        for (int i = 0; i < most_reads && socket_->waitForReadyRead(0); ++i) {
+        }
+    }
+}
+
 void client_link::distrust() {
     distrusting_ = true;
     socket_->waitForReadyRead(0);
@@ -79,6 +89,10 @@ void client_link::distrust() {
 
 void client_link::answer(const taking& result) {
     if (!result.answer) {
+        return;
+    }
+    if (finished_ && result.id != 0) {
+        emit answer_left_open(result.id);
         return;
     }
     if (result.id != 0) {
@@ -182,6 +196,7 @@ void client_link::finish() {
     acknowledged_->stop();
     // Nothing more can come, so a frame still being collected is complete.
     joiner_.finish();
+    finished_ = true;
     if (answer_) {
         emit answer_left_open(std::exchange(answer_, std::nullopt)->id);
     }

@@ -43,6 +43,8 @@ public:
     [[nodiscard]] bool can_bring() const;
     void bring(qint64 id, const received_message& message);
 
+    /// Reads what a client sent that has left, and ends; nothing for one that is still there.
+    void finish_if_left();
     /// Reads all that has come and refuses it with one answer, if there is anything.
     void distrust();
     /// Writes the answers that wait and ends our side; what still comes is read and thrown away.
@@ -96,6 +98,7 @@ private:
     bool has_spoken_ = false;
     bool ending_ = false;
     bool distrusting_ = false;
+    bool finished_ = false;
     QString drop_reason_;
 };
 

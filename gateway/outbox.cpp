@@ -30,7 +30,8 @@ void outbox::bring() {
 }
 
 void outbox::heard() {
-    if (received_ && !answer_) {
+    // A frame that was under way when a received message went out says nothing of that.
+    if (received_ && !answer_ && answer_is_last_) {
         const bool at_once = answered_at_ && clock_.steady() - *answered_at_ <= short_pause.count();
         write_received_now(at_once ? short_pause : long_pause);
     }
@@ -60,11 +61,13 @@ void outbox::write_due() {
 void outbox::write_answer_now() {
     last_at_ = clock_.steady();
     answered_at_ = last_at_;
+    answer_is_last_ = true;
     write_answer_(*std::exchange(answer_, std::nullopt));
 }
 
 void outbox::write_received_now(std::chrono::milliseconds pause) {
     received_ = false;
+    answer_is_last_ = false;
     last_at_ = clock_.steady();
     answer_from_ = last_at_ + pause.count();
     write_received_();

@@ -51,6 +51,7 @@ private:
     bool received_ = false;
     qint64 last_at_;
     std::optional<qint64> answered_at_;
+    bool answer_is_last_ = true; ///< of all that was written
     qint64 answer_from_ = 0;
 };
 

@@ -124,15 +124,19 @@ void server::remove_client(client_link* link, const QString& reason) {
 
 void server::take_frame(client_link* link, const QByteArray& frame, qint64 read_at) {
     stillness_.busy();
-    open_lost_answers(link);
+    end_earlier_links(link);
     link->answer(intake_.take(link->client(), frame, read_at, link->release_answer()));
 }
 
-/// A client that speaks on a new link has perhaps not read the answer on its way over an old one,
-/// whose end the system has not noticed yet.
-void server::open_lost_answers(const client_link* link) {
-    for (client_link* other : std::as_const(links_)) {
-        if (other != link && other->client() == link->client() && other->is_answer_under_way()) {
+/// A client that speaks on a new link has perhaps died, with an answer unread or with a message
+/// still to be read: what it repeats must find them.
+void server::end_earlier_links(const client_link* link) {
+    for (client_link* other : QList(links_)) {
+        if (other == link || other->client() != link->client() || !links_.contains(other)) {
+            continue;
+        }
+        other->finish_if_left();
+        if (other->is_answer_under_way()) { // the system may not have noticed its end
             intake_.leave_open(link->client(), other->release_answer()->id);
         }
     }

@@ -51,7 +51,7 @@ private:
     bool drop_silent(const QString& client, const QString& reason);
     [[nodiscard]] int count_links(const QString& client) const;
     void take_frame(client_link* link, const QByteArray& frame, qint64 read_at);
-    void open_lost_answers(const client_link* link);
+    void end_earlier_links(const client_link* link);
     void distrust_all();
 
     intake& intake_;

@@ -24,6 +24,10 @@ namespace gateway {
 /// The most bytes that arrive over this connection in one piece.
 [[nodiscard]] std::optional<qint64> segment_size(qintptr socket);
 
+/// Whether the other end has ended its side, also when it sent something before that is not read
+/// yet.
+[[nodiscard]] bool has_other_end_left(qintptr socket);
+
 /// Ends our side of a connection in order; what the other end still sends can be read.
 void end_sending(qintptr socket);
 

@@ -12,6 +12,7 @@
 #include <linux/sockios.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -53,6 +54,11 @@ std::optional<qint64> segment_size(qintptr socket) {
         return std::nullopt;
     }
     return size;
+}
+
+bool has_other_end_left(qintptr socket) {
+    pollfd asked{.fd = static_cast<int>(socket), .events = POLLRDHUP, .revents = 0};
+    return ::poll(&asked, 1, 0) > 0;
 }
 
 void end_sending(qintptr socket) {

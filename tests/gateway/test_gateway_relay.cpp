@@ -13,6 +13,8 @@
 
 #include <map>
 
+#include <sys/socket.h>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using gateway::fate;
@@ -186,6 +188,29 @@ private slots:
                       "attempts FROM message ORDER BY id"_s),
                  messages);
         QCOMPARE(rows(u"PRAGMA integrity_check"_s), u"ok"_s);
+    }
+
+    void absorbs_a_repeat_that_overtakes_the_end_of_its_link_data() {
+        QTest::addColumn<QString>("last"); // sent by the client that dies, and not answered yet
+        QTest::newRow("answered") << QString();
+        QTest::newRow("not read yet") << u"y"_s;
+    }
+
+    void absorbs_a_repeat_that_overtakes_the_end_of_its_link() {
+        QFETCH(QString, last);
+        client(u"b"_s); // came first, so what it sends is seen first
+        act(u"a>x"_s);
+        test_client& dying = client(u"a"_s);
+        if (!last.isEmpty()) {
+            dying.send(u"1113912345678"_s + last);
+            QVERIFY(dying.waitForBytesWritten());
+        }
+        ::shutdown(static_cast<int>(dying.socketDescriptor()), SHUT_WR);
+        client(u"b"_s).send(u"1113912345678"_s + (last.isEmpty() ? u"x"_s : last));
+        QVERIFY(client(u"b"_s).waitForBytesWritten());
+        QTRY_COMPARE(client(u"b"_s).answers(), u"1"_s);
+        QCOMPARE(rows(u"SELECT text FROM message ORDER BY id"_s),
+                 last.isEmpty() ? u"x"_s : u"x "_s + last);
     }
 
     void holds_what_stays_unknown() {

@@ -93,6 +93,7 @@ private slots:
             << u"f v 20 r f v 120 r f v 2000"_s << u"0v 20r 120v 140r 240v"_s;
         QTest::newRow("a client that takes its time")
             << u"f v 500 r f v 2000"_s << u"0v 500r 1500v"_s;
+        QTest::newRow("a frame that crosses it") << u"r r f v 3000"_s << u"0r 1000v 2000r"_s;
         QTest::newRow("given up") << u"r f v 10 w f v 2000"_s << u"0r 1000v"_s;
         QTest::newRow("at the end") << u"r f v 10 h"_s << u"0r 10v"_s;
     }
