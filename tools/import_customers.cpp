@@ -237,7 +237,6 @@ QByteArray content_of(const QString& path) {
 
 int run(const QCommandLineParser& arguments) {
     const QString csv = arguments.positionalArguments().at(0);
-
     const QString file = arguments.positionalArguments().at(1);
     const bool is_trial = arguments.isSet(u"dry-run"_s);
     const duplicates way = way_of(arguments.value(u"duplicates"_s));
