@@ -89,6 +89,11 @@ jet_table::jet_table(jet_file& file, const jet_file::table& which)
         table_->columns->len != table_->num_cols || !columns_are_sound()) {
         refuse(u"its columns cannot be read"_s);
     }
+    // The library takes the map of the table's pages for granted.
+    constexpr size_t least_map = 5;
+    if (table_->usage_map == nullptr || table_->map_sz < least_map) {
+        refuse(u"its pages cannot be found"_s);
+    }
 }
 
 /// Columns that no table can have would be read from where something else stands.
