@@ -8,8 +8,8 @@
         <translation>%1（请看 smsdb %2 --help）</translation>
     </message>
     <message>
-        <source>%1 takes %2 file name(s) (see smsdb %1 --help)</source>
-        <translation>%1 要 %2 个文件名（请看 smsdb %1 --help）</translation>
+        <source>%1 takes %2 name(s) (see smsdb %1 --help)</source>
+        <translation>%1 要 %2 个名称（请看 smsdb %1 --help）</translation>
     </message>
     <message>
         <source>no command (see smsdb --help)</source>
