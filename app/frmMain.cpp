@@ -7,6 +7,8 @@
 #include "app/frmAbout.h"
 #include "app/frmLogin.h"
 #include "app/frmserver.h"
+#include "app/list_follower.h"
+#include "app/list_panel.h"
 #include "app/window_placement.h"
 #include "listview/vc_in.h"
 #include "operators/frmRights.h"
@@ -83,12 +85,16 @@ frmMain::frmMain(std::unique_ptr<QMdiArea> windows, const controllers& opened,
     auto* sbStatusBar = new QStatusBar(this);
     sbStatusBar->setObjectName(u"sbStatusBar"_s);
     setStatusBar(sbStatusBar);
-    auto* first_panel = new QLabel(this);
-    sbStatusBar->addWidget(first_panel, 1);
+    sbStatusBar->addWidget(new list_panel(*windows_, this), 1);
     operator_panel_->setObjectName(u"Panel2"_s);
     operator_panel_->setTextFormat(Qt::PlainText); // a name with "<" is no markup
     sbStatusBar->addPermanentWidget(operator_panel_);
 
+    auto* follower = new list_follower(*windows_, this);
+    connect(&engine_, &dispatch_engine::sent, follower,
+            [this, follower] { follower->note(opened_.outgoing); });
+    connect(&engine_, &dispatch_engine::stored, follower,
+            [this, follower] { follower->note(opened_.received); });
     msgbox::set_silent(false);
     restore_placement(*this);
     show_operator();

@@ -43,15 +43,6 @@ std::optional<m_gsendsms> c_gsendsms::getrec(qint16 gsid) const {
                     });
 }
 
-qsizetype c_gsendsms::addressees(qint16 cid, qint16 isall) const {
-    return read_one(isall != 0 ? u"select count(*) from customer"_s
-                               : u"select count(*) from vwgroup where ccid=%1"_s.arg(literal(cid)),
-                    [](const Recordset& rs) {
-                        return static_cast<qsizetype>(rs.store().value(0, 0).toLongLong());
-                    })
-        .value_or(0);
-}
-
 bool c_gsendsms::addrec(const QString& sms, qint16 cid, bool imsend, qint16 isall,
                         const QDateTime& rtime, const QDateTime& stime,
                         const progress_report& report) const {

@@ -23,8 +23,6 @@ public:
     void searchsms(Recordset& rs) const;
     /// Leaves `sms` empty: the text of a stored group send is fixed.
     [[nodiscard]] std::optional<m_gsendsms> getrec(qint16 gsid) const;
-    /// How many customers a group send goes to; 0 when they cannot be counted.
-    [[nodiscard]] qsizetype addressees(qint16 cid, qint16 isall) const;
     /// Stores the group send and one pending message for each customer addressed; all of it is on
     /// disk when the call returns. After an error half-way what was written stays, and the answer
     /// is false. Tells `report` from time to time how far it has come.

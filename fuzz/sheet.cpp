@@ -5,7 +5,7 @@
 #include "data/dialled_number.h"
 #include "fuzz/target.h"
 #include "tools/command.h"
-#include "tools/csv.h"
+#include "platform/csv.h"
 #include "tools/customer_sheet.h"
 
 using namespace Qt::StringLiterals;

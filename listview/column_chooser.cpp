@@ -76,6 +76,14 @@ void column_chooser::choose_option(size_t index) {
     options_[index]->setChecked(true);
 }
 
+void column_chooser::choose_column(const QString& key) {
+    ComboColName->setCurrentIndex(ComboKey->findText(key));
+}
+
+QString column_chooser::chosen_key() const {
+    return ComboKey->currentText();
+}
+
 bool column_chooser::is_first_option() const {
     return options_[0]->isChecked();
 }

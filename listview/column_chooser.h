@@ -30,6 +30,8 @@ protected:
     void add_row(const QString& label, QWidget* field);
     void showEvent(QShowEvent* event) override;
     void choose_option(size_t index);
+    void choose_column(const QString& key);
+    [[nodiscard]] QString chosen_key() const;
     [[nodiscard]] bool is_first_option() const;
     /// The text for the record set, from the chosen column's key.
     [[nodiscard]] virtual QString make_result(const QString& key) const = 0;

@@ -32,6 +32,9 @@ public:
     void search(const QVariant& /*column*/, const QVariant& /*value*/) override {}
     [[nodiscard]] QString getidstring() const override { return id_column_.toString(); }
     [[nodiscard]] std::optional<spListHeaders> Ref() override { return std::nullopt; }
+    [[nodiscard]] bool can(entity_command command) const override {
+        return command == entity_command::remove;
+    }
 
 protected:
     [[nodiscard]] const entity_messages& messages() const { return messages_; }
@@ -70,6 +73,8 @@ public:
             *dialog, this->messages(), [&] { return validate(*dialog); },
             [&] { return update(dialog->record); });
     }
+
+    [[nodiscard]] bool can(entity_command /*command*/) const override { return true; }
 
 protected:
     [[nodiscard]] virtual std::unique_ptr<Dialog> make_dialog() const = 0;

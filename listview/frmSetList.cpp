@@ -8,6 +8,7 @@
 #include "listview/view_definition.h"
 #include "platform/guarded.h"
 #include "platform/widgets/data_grid.h"
+#include "platform/widgets/msgbox.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -118,7 +119,21 @@ void frmSetList::ExchPlace(qsizetype row, qsizetype other) {
     }
 }
 
+bool frmSetList::hides_all() const {
+    const qsizetype visible = rows_.column(u"Visible");
+    for (qsizetype row = 0; row < rows_.RecordCount(); ++row) {
+        if (rows_.store().integer(row, visible) != 0) {
+            return false;
+        }
+    }
+    return rows_.RecordCount() > 0;
+}
+
 void frmSetList::confirm() {
+    if (hides_all()) {
+        msgbox::information(u"至少要显示一列，请检查！"_s, u"提示"_s);
+        return;
+    }
     for (qsizetype row = 0; row < rows_.RecordCount(); ++row) {
         rows_.set_position(row);
         spListHeader& column = headers_.Item(headers_.SUBIndex(rows_.Fields(u"Key"_s).toString()));

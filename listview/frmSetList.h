@@ -30,6 +30,7 @@ private:
     void move(int step);
     /// Exchanges two rows of the grid.
     void ExchPlace(qsizetype row, qsizetype other);
+    [[nodiscard]] bool hides_all() const;
     void confirm();
 
     spListHeaders& headers_;

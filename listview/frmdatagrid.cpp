@@ -5,23 +5,29 @@
 
 #include "data/fmtdatetime.h"
 #include "data/strconn.h"
-#include "listview/frmFind.h"
 #include "listview/frmSetList.h"
 #include "listview/frmSort.h"
 #include "listview/frmconduser.h"
+#include "listview/list_menu.h"
+#include "listview/row_dialog.h"
+#include "listview/row_export.h"
 #include "listview/vc_in.h"
 #include "listview/view_definition.h"
 #include "platform/conversion.h"
+#include "platform/data_error.h"
 #include "platform/guarded.h"
 #include "platform/widgets/data_grid.h"
 #include "platform/widgets/msgbox.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QToolBar>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -30,7 +36,8 @@ frmdatagrid::frmdatagrid(vc_in& controller, QString view_no, QWidget* parent)
       controller_(controller),
       view_no_(std::move(view_no)),
       Toolbar1(new QToolBar(this)),
-      DataGrid1(new DataGrid(this)) {
+      DataGrid1(new DataGrid(this)),
+      rows_(*DataGrid1, controller.getidstring()) {
     Toolbar1->setObjectName(u"Toolbar1"_s);
     Toolbar1->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     DataGrid1->setObjectName(u"DataGrid1"_s);
@@ -45,16 +52,14 @@ frmdatagrid::frmdatagrid(vc_in& controller, QString view_no, QWidget* parent)
     SetDefault();
     fFilter();
     setWindowTitle(headers_.vName);
-    build_toolbar(imlToolbarIcons, *Toolbar1, headers_.ReadOnly, headers_.other);
+    build_tools();
     DataGrid1->setAccessibleName(headers_.vName);
-    DataGrid1->set_recordset(&rows_);
-
+    DataGrid1->set_sortable();
     connect(Toolbar1, &QToolBar::actionTriggered, this,
             guarded([this](QAction* action) { press(action->objectName()); }));
-}
-
-frmdatagrid::~frmdatagrid() {
-    DataGrid1->set_recordset(nullptr);
+    connect(DataGrid1, &DataGrid::opened, this, guarded([this] { open_row(); }));
+    connect(DataGrid1, &DataGrid::failed, this, guarded([this] { tell_unreadable(); }));
+    connect(DataGrid1, &DataGrid::row_changed, this, [this] { note({}); });
 }
 
 void frmdatagrid::showEvent(QShowEvent* event) {
@@ -62,17 +67,39 @@ void frmdatagrid::showEvent(QShowEvent* event) {
     setFocus(); // its frame hides it when it changes its state, and the focus moves on
 }
 
-void frmdatagrid::press(const QString& key) {
-    static const QHash<QString, void (frmdatagrid::*)()> commands{
-        {u"Add"_s, &frmdatagrid::faddnew},       {u"Edit"_s, &frmdatagrid::Fedit},
-        {u"Delete"_s, &frmdatagrid::fdelete},    {u"find"_s, &frmdatagrid::fFind},
-        {u"sort"_s, &frmdatagrid::fSort},        {u"setfield"_s, &frmdatagrid::SetField},
-        {u"refresh"_s, &frmdatagrid::fRefresh},  {u"Save"_s, &frmdatagrid::FsaveLayout},
-        {u"Exit"_s, &frmdatagrid::close_window},
+const QHash<QString, frmdatagrid::list_command>& frmdatagrid::commands() {
+    static const QHash<QString, list_command> commands{
+        {u"Add"_s, {&frmdatagrid::faddnew, entity_command::create}},
+        {u"Edit"_s, {&frmdatagrid::Fedit, entity_command::modify}},
+        {u"Delete"_s, {&frmdatagrid::fdelete, entity_command::remove}},
+        {u"find"_s, {&frmdatagrid::fFind}},
+        {u"sort"_s, {&frmdatagrid::fSort}},
+        {u"setfield"_s, {&frmdatagrid::SetField}},
+        {u"refresh"_s, {&frmdatagrid::refresh_asked}},
+        {u"Save"_s, {&frmdatagrid::FsaveLayout}},
+        {u"Exit"_s, {&frmdatagrid::close_window}},
     };
-    if (const auto command = commands.value(key)) {
-        (this->*command)();
+    return commands;
+}
+
+void frmdatagrid::press(const QString& key) {
+    if (const auto run = commands().value(key).run) {
+        (this->*run)();
     }
+}
+
+void frmdatagrid::build_tools() {
+    build_toolbar(imlToolbarIcons, *Toolbar1, headers_.ReadOnly, headers_.other);
+    for (QAction* button : Toolbar1->actions()) {
+        const list_command wanted = commands().value(button->objectName());
+        button->setEnabled(wanted.run != nullptr &&
+                           (!wanted.needs || controller_.can(*wanted.needs)));
+    }
+    add_list_menu(*DataGrid1, *Toolbar1,
+                  {.show_row = [this] { show_row(); },
+                   .find_again = [this] { find_again(false); },
+                   .find_back = [this] { find_again(true); },
+                   .export_rows = [this] { export_shown(); }});
 }
 
 void frmdatagrid::run_and_refresh(const std::function<void()>& command, const QString& failure) {
@@ -85,36 +112,70 @@ void frmdatagrid::run_and_refresh(const std::function<void()>& command, const QS
 }
 
 void frmdatagrid::faddnew() {
+    const qint64 last = rows_.highest_key(); // the insertion does not tell the new one
     run_and_refresh([this] { controller_.createrec(); }, u"不能创建图形资料！"_s);
+    rows_.mark_newer_than(last);
 }
 
 void frmdatagrid::Fedit() {
-    run_and_refresh([this] { controller_.modifyrec(current_id()); }, u"修改错误"_s);
+    run_on_marked_row(&vc_in::modifyrec, u"修改错误"_s);
 }
 
 void frmdatagrid::fdelete() {
-    run_and_refresh([this] { controller_.deleterec(current_id()); }, u"删除错误"_s);
+    run_on_marked_row(&vc_in::deleterec, u"删除错误"_s);
+}
+
+void frmdatagrid::run_on_marked_row(bool (vc_in::*command)(qint16), const QString& failure) {
+    DataGrid1->show_marked_row();
+    DataGrid1->viewport()->repaint(); // it is seen before any box or dialog comes up
+    run_and_refresh([this, command] { (controller_.*command)(current_id()); }, failure);
+}
+
+void frmdatagrid::open_row() {
+    const auto* edit = Toolbar1->findChild<QAction*>(u"Edit"_s);
+    if (edit != nullptr && edit->isEnabled()) {
+        Fedit();
+    } else {
+        show_row();
+    }
+}
+
+void frmdatagrid::show_row() {
+    if (DataGrid1->row() >= 0) {
+        row_dialog(*DataGrid1, this).exec();
+    }
+}
+
+void frmdatagrid::export_shown() {
+    const QString path = export_rows(*DataGrid1, windowTitle(), this);
+    if (!path.isEmpty()) {
+        note(u"已导出到 "_s + QDir::toNativeSeparators(path));
+    }
 }
 
 void frmdatagrid::fFind() {
-    if (rows_.Bof() && rows_.Eof()) {
+    if (rows_.count() == 0) {
         return;
     }
-    frmFind dialog(headers_, this);
+    frmFind dialog(headers_, search_, this);
     dialog.exec();
-    if (!dialog.confirmed) {
-        return;
+    if (dialog.confirmed) {
+        search_ = dialog.request();
+        search(search_.forward);
     }
-    if (rows_.Bof() || rows_.Eof()) {
-        rows_.MoveFirst();
+}
+
+void frmdatagrid::find_again(bool back) {
+    if (search_.key.isEmpty()) {
+        fFind();
+    } else if (rows_.count() > 0) {
+        search(search_.forward != back);
     }
-    rows_.Find(dialog.result, 1,
-               dialog.forward ? Recordset::SearchDirectionEnum::forward
-                              : Recordset::SearchDirectionEnum::backward);
-    if (rows_.Bof() || rows_.Eof()) {
+}
+
+void frmdatagrid::search(bool forward) {
+    if (!rows_.find(search_, forward)) {
         msgbox::information(u"Cann't find! "_s, u"Information"_s);
-    } else {
-        DataGrid1->show_position();
     }
 }
 
@@ -122,74 +183,65 @@ void frmdatagrid::fSort() {
     frmSort dialog(headers_, this);
     dialog.exec();
     if (dialog.confirmed) {
-        rows_.set_Sort(dialog.result);
-        sort_ = dialog.result;
-        DataGrid1->refresh_rows();
+        DataGrid1->sort_rows(dialog.result);
     }
 }
 
 void frmdatagrid::fRefresh() {
-    const int row = DataGrid1->row(); // a search in vain leaves the cursor elsewhere
-    const bool on_row = row >= 0;
-    if (on_row) {
-        rows_.set_position(row);
-    }
-    const QString key = controller_.getidstring();
-    const QVariant id = on_row && rows_.column(key) >= 0 ? rows_.Fields(key) : QVariant();
-
-    // The rows on the screen stay when the new ones cannot be had.
     Recordset rows;
     ResetCond(headers_, rows);
-    if (!sort_.isEmpty()) {
-        rows.set_Sort(sort_);
-    }
-    DataGrid1->set_recordset(nullptr);
-    rows_ = std::move(rows);
-    restore_position(id, row);
-    DataGrid1->set_recordset(&rows_);
+    rows_.show(std::move(rows));
+    note({});
 }
 
-void frmdatagrid::restore_position(const QVariant& key, qsizetype row) {
-    if (rows_.Bof() && rows_.Eof()) {
-        return;
+void frmdatagrid::refresh_asked() {
+    unreadable_ = false;
+    fRefresh();
+}
+
+void frmdatagrid::follow() {
+    try {
+        const QString told = note_; // of what the operator did last, and that was not this
+        fRefresh();
+        note(told);
+    } catch (const DataError&) {
+        tell_unreadable();
     }
-    const qsizetype nearest = qBound<qsizetype>(0, row, rows_.RecordCount() - 1);
-    rows_.set_position(nearest);
-    const QString column = controller_.getidstring();
-    if (key.isNull() || rows_.Fields(column) == key) {
-        return;
-    }
-    rows_.MoveFirst();
-    rows_.Find(u"[%1]=%2"_s.arg(column, key.toString()));
-    if (rows_.Eof()) {
-        rows_.set_position(nearest);
+}
+
+void frmdatagrid::tell_unreadable() {
+    if (!std::exchange(unreadable_, true)) {
+        msgbox::information(u"输入错误,请查看！"_s, u"系统提示"_s);
     }
 }
 
 void frmdatagrid::SetField() {
-    take_widths(); // what was dragged before must not be lost
+    take_widths(headers_, *DataGrid1); // what was dragged before must not be lost
     frmSetList editor(headers_, this);
     editor.exec();
     if (editor.confirmed) {
         headers_.sort_by_position();
-        DataGrid1->set_recordset(nullptr);
         apply_view(headers_, *DataGrid1);
-        DataGrid1->set_recordset(&rows_);
-    }
-}
-
-void frmdatagrid::take_widths() {
-    for (qsizetype i = 1; i <= headers_.Count(); ++i) {
-        const int column = static_cast<int>(i - 1);
-        if (!DataGrid1->isColumnHidden(column)) { // a hidden column keeps the width it had
-            headers_.Item(i).Width = to_int16(QString::number(DataGrid1->width_twips(column)));
-        }
     }
 }
 
 void frmdatagrid::FsaveLayout() {
-    take_widths();
+    take_widths(headers_, *DataGrid1);
     save_view(headers_, strconn, view_no_);
+    note(u"列表的样子已经保存"_s);
+}
+
+QString frmdatagrid::status() const {
+    const QString rows = QString::number(rows_.count());
+    const QString marked = QString::number(DataGrid1->row() + 1);
+    const bool is_empty = rows_.count() == 0;
+    const QString place = is_empty ? u"共 0 条"_s : u"第 %1 条，共 %2 条"_s.arg(marked, rows);
+    return note_.isEmpty() ? place : place + u"    "_s + note_;
+}
+
+void frmdatagrid::note(const QString& done) {
+    note_ = done;
+    emit status_changed();
 }
 
 void frmdatagrid::SetDefault() {
@@ -206,11 +258,10 @@ void frmdatagrid::fFilter() {
         }
         store_condition(headers_, condition_);
     }
-    ResetCond(headers_, rows_);
+    fRefresh();
 }
 
 void frmdatagrid::updateField() {
-    DataGrid1->set_recordset(nullptr);
     load_view(headers_, strconn, view_no_);
     apply_view(headers_, *DataGrid1);
 }

@@ -3,20 +3,22 @@
 
 #pragma once
 
+#include "listview/frmFind.h"
+#include "listview/list_rows.h"
 #include "listview/operation_log.h"
 #include "listview/spListHeaders.h"
 #include "listview/toolbar_builder.h"
-#include "platform/recordset.h"
 
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class DataGrid;
-class QAction;
 class QMdiArea;
 class QToolBar;
 class vc_in;
+enum class entity_command;
 
 /// The one kind of list window: a toolbar above a grid that shows the rows of one view. What is the
 /// entity's own it leaves to the controller.
@@ -26,15 +28,19 @@ class frmdatagrid : public QWidget {
 public:
     /// Loads the view and opens the rows. Throws DataError.
     frmdatagrid(vc_in& controller, QString view_no, QWidget* parent = nullptr);
-    ~frmdatagrid() override;
-    Q_DISABLE_COPY_MOVE(frmdatagrid)
 
     void faddnew();
     void Fedit();
     void fdelete();
     void fFind();
+    /// Repeats the search, the same way or back; asks what for when there was none.
+    void find_again(bool back);
     void fSort();
+    /// Reads the rows anew. The marked row stays marked and where it is seen. Throws DataError, and
+    /// then all stays as it was.
     void fRefresh();
+    /// The same unasked, because rows have changed; when they cannot be read, a box tells it once.
+    void follow();
     /// Lets the operator choose which columns are shown and in which order.
     void SetField();
     /// Saves widths, order and visibility of the columns.
@@ -51,25 +57,50 @@ public:
     /// column.
     [[nodiscard]] QString value(const QString& column_key) const;
 
+    [[nodiscard]] const vc_in& controller() const { return controller_; }
+    /// Which row is marked and of how many; and what was done last, if it shows nowhere else.
+    [[nodiscard]] QString status() const;
+
+signals:
+    void status_changed();
+
 private:
+    struct list_command {
+        void (frmdatagrid::*run)() = nullptr;
+        std::optional<entity_command> needs = {}; ///< of the controller
+    };
+
     void showEvent(QShowEvent* event) override;
+    /// What the toolbar's keys do.
+    [[nodiscard]] static const QHash<QString, list_command>& commands();
     void press(const QString& key);
+    /// Fills the toolbar and the context menu; what does nothing is grey.
+    void build_tools();
+    void refresh_asked();
+    /// The marked row was double-clicked, or Enter pressed on it.
+    void open_row();
+    void show_row();
+    void export_shown();
+    void note(const QString& done);
+    void search(bool forward);
+    void tell_unreadable();
     /// Runs a command of the controller, tells when it fails, and shows the rows anew in any case.
     void run_and_refresh(const std::function<void()>& command, const QString& failure);
+    void run_on_marked_row(bool (vc_in::*command)(qint16), const QString& failure);
     void close_window();
-    void take_widths();
     [[nodiscard]] qint16 current_id() const;
-    void restore_position(const QVariant& key, qsizetype row);
 
     vc_in& controller_;
     QString view_no_;
     spListHeaders headers_;
-    Recordset rows_;
-    QString sort_;
+    search_request search_; ///< the last one
+    QString note_;          ///< what was done last
+    bool unreadable_ = false;
     operation_condition condition_; ///< of the operation log alone
     image_list imlToolbarIcons;
     QToolBar* Toolbar1;
     DataGrid* DataGrid1;
+    list_rows rows_;
 };
 
 /// Opens a list window in the frame, maximised. Throws DataError, and then opens none.

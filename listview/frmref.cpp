@@ -6,11 +6,16 @@
 #include "listview/dialog_buttons.h"
 #include "listview/vc_in.h"
 #include "listview/view_definition.h"
+#include "platform/guarded.h"
+#include "platform/recordset.h"
 #include "platform/widgets/data_grid.h"
 #include "platform/widgets/msgbox.h"
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -19,18 +24,27 @@
 using namespace Qt::StringLiterals;
 
 frmref::frmref(spListHeaders& columns, Recordset& rows, QWidget* parent)
-    : QDialog(parent), columns_(columns), DataGrid1(new DataGrid(this)) {
+    : QDialog(parent),
+      columns_(columns),
+      rows_(rows),
+      txtFind(new QLineEdit(this)),
+      DataGrid1(new DataGrid(this)),
+      lblFind(new QLabel(u"没有找到"_s, this)) {
     setWindowTitle(columns.vName);
     DataGrid1->setObjectName(u"DataGrid1"_s);
     DataGrid1->setAccessibleName(columns.vName);
     auto* layout = new QVBoxLayout(this);
+    add_search_line(*layout);
     layout->addWidget(DataGrid1);
     const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
-    buttons.ok->setObjectName(u"cmdok"_s);
+    cmdok = buttons.ok;
+    cmdok->setObjectName(u"cmdok"_s);
     buttons.cancel->setObjectName(u"cmdcancel"_s);
 
     apply_view(columns, *DataGrid1);
     DataGrid1->set_recordset(&rows);
+    DataGrid1->set_sortable();
+    tell_found(true);
     resize(wanted_width(), fontMetrics().height() * 26);
     connect(buttons.ok, &QPushButton::clicked, this, &frmref::pick);
     connect(DataGrid1, &QAbstractItemView::doubleClicked, this, &frmref::pick);
@@ -38,6 +52,60 @@ frmref::frmref(spListHeaders& columns, Recordset& rows, QWidget* parent)
 
 frmref::~frmref() {
     DataGrid1->set_recordset(nullptr);
+}
+
+void frmref::add_search_line(QBoxLayout& layout) {
+    auto* label = new QLabel(u"查找："_s, this);
+    label->setBuddy(txtFind);
+    txtFind->setObjectName(u"txtFind"_s);
+    txtFind->setAccessibleName(label->text());
+    lblFind->setObjectName(u"lblFind"_s);
+    auto* line = new QHBoxLayout;
+    line->addWidget(label);
+    line->addWidget(txtFind, 1);
+    line->addWidget(lblFind);
+    layout.addLayout(line);
+    txtFind->setFocus();
+    txtFind->installEventFilter(this);
+    connect(txtFind, &QLineEdit::textChanged, this, guarded([this] { search(0, 1); }));
+    // Whoever goes to a row by hand means that one.
+    connect(DataGrid1, &DataGrid::row_changed, this, [this] { tell_found(true); });
+    connect(DataGrid1, &QAbstractItemView::clicked, this, [this] { tell_found(true); });
+}
+
+bool frmref::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const auto& pressed = static_cast<QKeyEvent&>(*event);
+        switch (pressed.key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+            return QCoreApplication::sendEvent(DataGrid1, event);
+        case Qt::Key_F3: {
+            const int step = pressed.modifiers() == Qt::ShiftModifier ? -1 : 1;
+            search(step, step);
+            return true;
+        }
+        default:
+            break;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmref::search(int skip, int step) {
+    const int row = DataGrid1->find_text(txtFind->text(), DataGrid1->row() + skip, step);
+    if (row >= 0) {
+        rows_.set_position(row);
+        DataGrid1->show_position();
+    }
+    tell_found(row >= 0 || txtFind->text().isEmpty());
+}
+
+void frmref::tell_found(bool found) {
+    lblFind->setVisible(!found);
+    cmdok->setEnabled(found);
 }
 
 int frmref::wanted_width() const {

@@ -8,11 +8,15 @@
 #include <QDialog>
 
 class DataGrid;
+class QBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
 class Recordset;
 class vc_in;
 
-/// The reference picker: a modal grid from which one row is picked. The picked row's values go into
-/// the columns' `Other1`.
+/// The reference picker: a modal grid from which one row is picked, and a line above it that goes
+/// to the next row with a text as one types. The picked row's values go into the columns' `Other1`.
 class frmref : public QDialog {
     Q_OBJECT
 
@@ -21,12 +25,25 @@ public:
     ~frmref() override;
     Q_DISABLE_COPY_MOVE(frmref)
 
+protected:
+    /// The keys that move in the grid do so from the line above it, too.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void add_search_line(QBoxLayout& layout);
+    /// Goes to the first row with the typed text, so many rows from the marked one on.
+    void search(int skip, int step);
+    /// Without a row to be found nothing can be picked: the marked one is not what was asked for.
+    void tell_found(bool found);
     [[nodiscard]] int wanted_width() const;
     void pick();
 
     spListHeaders& columns_;
+    Recordset& rows_;
+    QLineEdit* txtFind;
     DataGrid* DataGrid1;
+    QLabel* lblFind;
+    QPushButton* cmdok;
 };
 
 /// One column of a picker.

@@ -8,6 +8,9 @@
 
 #include <optional>
 
+/// What a controller may be able to do with records.
+enum class entity_command { create, modify, remove };
+
 /// What a list window and a picker button need of an entity: the interface of every controller.
 class vc_in {
 public:
@@ -31,4 +34,6 @@ public:
     /// Lets the operator pick one row; its values stand in the columns' `Other1`, empty when
     /// nothing was picked. Nothing for an entity that cannot be picked. Throws DataError.
     [[nodiscard]] virtual std::optional<spListHeaders> Ref() = 0;
+    /// False for a command that would do nothing.
+    [[nodiscard]] virtual bool can(entity_command /*command*/) const { return true; }
 };

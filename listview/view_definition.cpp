@@ -174,3 +174,9 @@ void apply_view(const spListHeaders& headers, DataGrid& grid) {
     }
     grid.set_columns(columns);
 }
+
+void take_widths(spListHeaders& headers, const DataGrid& grid) {
+    for (const int column : grid.shown_columns()) {
+        headers.Item(column + 1).Width = to_int16(QString::number(grid.width_twips(column)));
+    }
+}

@@ -19,3 +19,6 @@ void save_view(const spListHeaders& headers, const QString& connection_string,
 
 /// Rebuilds the grid's columns from the definition; passwords stay hidden in any case.
 void apply_view(const spListHeaders& headers, DataGrid& grid);
+
+/// Takes over the widths that the grid's columns have been given; a hidden one keeps its own.
+void take_widths(spListHeaders& headers, const DataGrid& grid);

@@ -41,7 +41,11 @@ void dispatch_engine::StopTomer() {
 }
 
 void dispatch_engine::initsend() {
-    unwritten_.retry(); // whoever's turn it is: these messages are not to be sent again
+    // Whoever's turn it is: these messages are not to be sent again.
+    if (unwritten_.retry()) {
+        emit sent();
+        emit stored();
+    }
     if (finishing_) {
         end_when_done();
         return;
@@ -122,8 +126,8 @@ void dispatch_engine::sendend(const bool& ok) {
     sendready_ = true;
     Timer2.set_Enabled(false);
     if (const m_sendsms* first = used_.queue.Item(1)) {
-        if (ok) {
-            unwritten_.mark_sent(first->smsid);
+        if (ok && unwritten_.mark_sent(first->smsid)) {
+            emit sent();
         }
         used_.queue.Remove(1);
     }
@@ -164,7 +168,9 @@ void dispatch_engine::Winsock1_DataArrival() {
 
 void dispatch_engine::take_frame(const QString& frame) {
     if (frame.startsWith(u'0')) {
-        unwritten_.store(gateway_frame::parse_received(frame));
+        if (unwritten_.store(gateway_frame::parse_received(frame))) {
+            emit stored();
+        }
     } else if (frame.startsWith(u'1')) {
         sendend(true);
     } else if (frame.startsWith(u'2')) {

@@ -62,6 +62,10 @@ public:
 
 signals:
     void finished();
+    /// A message has been marked as sent.
+    void sent();
+    /// A received message has been stored.
+    void stored();
 
 private:
     [[nodiscard]] bool take_turn();

@@ -16,24 +16,28 @@ constexpr qsizetype most_characters = 16'777'216;
 unwritten_answers::unwritten_answers(const c_sendsms& outgoing, const c_recvedsms& received)
     : outgoing_(outgoing), received_(received) {}
 
-void unwritten_answers::mark_sent(qint16 smsid) {
-    if (!outgoing_.sended(smsid)) {
-        unmarked_.append(smsid);
+bool unwritten_answers::mark_sent(qint16 smsid) {
+    if (outgoing_.sended(smsid)) {
+        return true;
     }
+    unmarked_.append(smsid);
+    return false;
 }
 
-void unwritten_answers::store(const gateway_frame::received& message) {
+bool unwritten_answers::store(const gateway_frame::received& message) {
     if (unstored_.isEmpty() && write(message)) {
-        return;
+        return true;
     }
     const bool can_ever_be = is_writable(message.mobile) && is_writable(message.text);
     if (can_ever_be && characters_ + message.text.size() <= most_characters) {
         characters_ += message.text.size();
         unstored_.append(message);
     }
+    return false;
 }
 
-void unwritten_answers::retry() {
+bool unwritten_answers::retry() {
+    const qsizetype kept = unmarked_.size() + unstored_.size();
     while (!unmarked_.isEmpty() && outgoing_.sended(unmarked_.first())) {
         unmarked_.removeFirst();
     }
@@ -41,6 +45,7 @@ void unwritten_answers::retry() {
         characters_ -= unstored_.first().text.size();
         unstored_.removeFirst();
     }
+    return unmarked_.size() + unstored_.size() < kept;
 }
 
 bool unwritten_answers::write(const gateway_frame::received& message) const {

@@ -17,13 +17,15 @@ public:
     /// Both outlive this.
     unwritten_answers(const c_sendsms& outgoing, const c_recvedsms& received);
 
+    // Each tells whether something was written.
+
     /// Marks a message that the gateway has accepted.
-    void mark_sent(qint16 smsid);
+    [[nodiscard]] bool mark_sent(qint16 smsid);
     /// Stores a received message behind those that wait. Lost are one that no statement can carry,
     /// and one that comes when more wait than memory is to be spent on.
-    void store(const gateway_frame::received& message);
+    [[nodiscard]] bool store(const gateway_frame::received& message);
     /// Tries again to write what is kept.
-    void retry();
+    [[nodiscard]] bool retry();
 
     /// Accepted by the gateway, but still pending in the database.
     [[nodiscard]] const QList<qint16>& unmarked() const noexcept { return unmarked_; }

@@ -47,7 +47,8 @@ bool vc_gsendsms::validate(frmGsendsms& dialog) const {
 bool vc_gsendsms::insert(const m_gsendsms& added) const {
     const wait_cursor waiting;
     std::optional<progress_box> box;
-    if (const qsizetype total = records->addressees(added.cid, added.isall); total > long_run) {
+    if (const qint32 total = records->count_addressees(added.cid, added.isall).value_or(0);
+        total > long_run) {
         box.emplace(u"正在写入短信，请稍候……"_s, total);
     }
     return records->addrec(added.sms, added.cid, added.imsend, added.isall, added.rtime,

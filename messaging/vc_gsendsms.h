@@ -14,6 +14,9 @@ public:
     /// `classes` and `phrases` are what the edit dialog picks from.
     vc_gsendsms(QMdiArea& windows, vc_in& classes, vc_in& phrases);
     bool modifyrec(qint16 /*id*/) override { return false; }
+    [[nodiscard]] bool can(entity_command command) const override {
+        return command != entity_command::modify;
+    }
 
 protected:
     [[nodiscard]] std::unique_ptr<frmGsendsms> make_dialog() const override;

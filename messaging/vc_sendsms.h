@@ -13,6 +13,9 @@ public:
     /// `customers` and `phrases` are what the edit dialog picks from.
     vc_sendsms(QMdiArea& windows, vc_in& customers, vc_in& phrases);
     bool modifyrec(qint16 /*id*/) override { return false; }
+    [[nodiscard]] bool can(entity_command command) const override {
+        return command != entity_command::modify;
+    }
 
 protected:
     [[nodiscard]] std::unique_ptr<frmSendsms> make_dialog() const override;

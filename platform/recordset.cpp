@@ -112,6 +112,7 @@ void Recordset::read_rows(const QString& statement) {
     store_ = std::move(store);
     row_ids_ = std::move(row_ids);
     order_.clear();
+    sort_.clear();
     dirty_.clear();
 }
 
@@ -127,6 +128,7 @@ void Recordset::Close() {
     require_open();
     store_ = RowStore();
     order_.clear();
+    sort_.clear();
     row_ids_.clear();
     dirty_.clear();
     state_ = StateEnum::closed;
@@ -195,6 +197,7 @@ void Recordset::Find(const QString& criterion, qsizetype skip, SearchDirectionEn
 void Recordset::set_Sort(const QString& order) {
     require_open();
     order_ = sorted_rows(store_, order);
+    sort_ = order;
     position_ = 0;
 }
 

@@ -55,6 +55,8 @@ public:
     /// Orders the rows by "COLUMN", "COLUMN ASC" or "COLUMN DESC" and goes to the first; an empty
     /// text brings the original order back.
     void set_Sort(const QString& order);
+    /// What the rows are ordered by; empty as they came.
+    [[nodiscard]] const QString& Sort() const noexcept { return sort_; }
 
     /// A field of the current row; Null is an invalid QVariant.
     [[nodiscard]] QVariant Fields(const QString& name) const;
@@ -85,6 +87,7 @@ private:
 
     StateEnum state_ = StateEnum::closed;
     RowStore store_;
+    QString sort_;
     std::vector<qint32> order_; ///< rows of the store in their sorted order; empty: as they came
     qsizetype position_ = -1;
 

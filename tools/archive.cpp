@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/conversion.h"
+#include "platform/csv.h"
 #include "platform/data_error.h"
 #include "platform/sqlite_database.h"
 #include "tools/closing_up.h"
 #include "tools/command.h"
 #include "tools/console.h"
-#include "tools/csv.h"
 #include "tools/new_file.h"
 #include "tools/query.h"
 

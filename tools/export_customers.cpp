@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "platform/csv.h"
 #include "platform/sqlite_database.h"
 #include "tools/command.h"
 #include "tools/console.h"
-#include "tools/csv.h"
 #include "tools/customer_sheet.h"
 #include "tools/new_file.h"
 #include "tools/query.h"

@@ -6,12 +6,23 @@
 #include "platform/widgets/owner_window.h"
 
 #include <QAbstractButton>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QWindow>
 
 namespace {
 
 bool is_silent = false;
+
+/// Room for the title: most title bars write it in bold, between a symbol and three buttons.
+void widen_to_title(QMessageBox& box) {
+    QFont bold = box.font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    const int width = metrics.horizontalAdvance(box.windowTitle()) + 8 * metrics.height();
+    auto& layout = *qobject_cast<QGridLayout*>(box.layout());
+    layout.addItem(new QSpacerItem(width, 0), layout.rowCount(), 0, 1, layout.columnCount());
+}
 
 int show(QMessageBox::Icon icon, const QString& text, const QString& title,
          QMessageBox::StandardButtons buttons, QMessageBox::StandardButton usual) {
@@ -28,6 +39,7 @@ int show(QMessageBox::Icon icon, const QString& text, const QString& title,
         box.winId();
         box.windowHandle()->setTitle(QStringLiteral(" "));
     }
+    widen_to_title(box);
     return box.exec();
 }
 

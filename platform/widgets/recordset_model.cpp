@@ -3,6 +3,8 @@
 
 #include "platform/widgets/recordset_model.h"
 
+#include <utility>
+
 namespace {
 
 Qt::Alignment to_alignment(grid_column::Alignment alignment, bool is_number) {
@@ -42,6 +44,7 @@ void RecordsetModel::set_columns(const QList<grid_column>& columns) {
 void RecordsetModel::set_recordset(const Recordset* rows) {
     beginResetModel();
     rows_ = rows;
+    failed_ = false;
     find_fields();
     endResetModel();
 }
@@ -62,6 +65,17 @@ int RecordsetModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant RecordsetModel::data(const QModelIndex& index, int role) const {
+    try {
+        return cell(index, role);
+    } catch (const std::exception&) { // nothing may pass through the view that asks
+        if (!std::exchange(failed_, true)) {
+            emit cell_failed();
+        }
+        return {};
+    }
+}
+
+QVariant RecordsetModel::cell(const QModelIndex& index, int role) const {
     if (!index.isValid() || fields_.value(index.column(), -1) < 0) {
         return {};
     }

@@ -48,12 +48,18 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                       int role = Qt::DisplayRole) const override;
 
+signals:
+    /// A cell could not be read and is empty; told once for the rows bound.
+    void cell_failed() const;
+
 private:
     void find_fields();
+    [[nodiscard]] QVariant cell(const QModelIndex& index, int role) const;
     [[nodiscard]] QString display_text(const QVariant& value, int column) const;
 
     QList<grid_column> columns_;
     QList<DisplayFormat> formats_;
     QList<qsizetype> fields_; ///< the record set's column behind each grid column, -1 for none
     const Recordset* rows_ = nullptr;
+    mutable bool failed_ = false; ///< and that was told
 };

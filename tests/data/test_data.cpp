@@ -225,7 +225,8 @@ private slots:
         QVERIFY(group_sends_.addrec(u"Hi"_s, 0, true, -1, now_, later,
                                     [&](auto done) { reports.append(QString::number(done)); }));
         QCOMPARE(reports.join(u' '), u"0 500 1000 1500 2000"_s);
-        QVERIFY(group_sends_.addressees(5, -1) == 2001 && group_sends_.addressees(5, 0) == 4);
+        QVERIFY(group_sends_.count_addressees(5, -1) == 2001 &&
+                group_sends_.count_addressees(5, 0) == 4);
     }
 
     void a_group_of_constants_is_loaded() {

@@ -18,7 +18,7 @@ const QStringList ways =
     u"mnuPara:2:FrmParameter mnuChgPassword::frmuser mnuHelpAbout::frmAbout mnuHelpContents:: "
     u"mnuWindowCascade:: mnuWindowTileHorizontal:: mnuWindowTileVertical:: "
     u"mnuWindowArrangeIcons:: Add::frmSmsm Edit::frmSmsm Delete::QMessageBox find::frmFind "
-    u"sort::frmSort setfield::frmSetList refresh:: Save:: row::"_s.split(u' ');
+    u"sort::frmSort setfield::frmSetList refresh:: Save:: row::frmSmsm"_s.split(u' ');
 
 // Operator:rights:title of the refusal; -1 has logged out. The rights of operator 5 are withdrawn
 // after the login, and last until the next one.

@@ -274,10 +274,10 @@ private slots:
         c_recvedsms received; // of no database
         unwritten_answers answers(s.outgoing, received);
         for (int i = 0; i < 20; ++i) {
-            answers.store({u"1"_s, s.clock, QString(1 << 20, u'x')});
+            static_cast<void>(answers.store({u"1"_s, s.clock, QString(1 << 20, u'x')}));
         }
         received.connection = strconn;
-        answers.retry();
+        QVERIFY(answers.retry());
         QCOMPARE(s.value(u"select count(*) from recvedsms"_s), 16);
         QVERIFY(answers.is_empty());
     }

@@ -11,6 +11,7 @@
 #include "tests/support/person.h"
 #include "tests/support/test_database.h"
 
+#include <QHeaderView>
 #include <QMdiSubWindow>
 
 /// The whole program on a database of its own: operator 1 is logged in, no gateway answers unless
@@ -47,6 +48,12 @@ private:
 
 [[nodiscard]] inline DataGrid& grid_of(const QWidget& window) {
     return *window.findChild<DataGrid*>();
+}
+
+inline void click_heading(const DataGrid& grid, int column) {
+    const QHeaderView& header = *grid.horizontalHeader();
+    const QPoint place(header.sectionViewportPosition(column) + 20, header.height() / 2);
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, place);
 }
 
 inline void expect_refusal(const QString& text, const QString& title = QStringLiteral("输入错误")) {

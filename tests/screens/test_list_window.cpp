@@ -13,6 +13,7 @@
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QComboBox>
+#include <QRadioButton>
 #include <QToolBar>
 
 using namespace Qt::StringLiterals;
@@ -86,11 +87,36 @@ private slots:
         QCOMPARE(find(0, u"A"_s), u"2"_s);
         QCOMPARE(find(0, u"a"_s), u"11"_s);
         QCOMPARE(find(1, u"a"_s), u"2"_s);
-        find(1, u"a"_s, false); // and the cursor left the rows
-        person::click(list, u"refresh"_s);
-        QCOMPARE(list.value(u"mid"_s), u"2"_s);
-        find(1, u"a"_s, false);
+        QCOMPARE(find(1, u"a"_s, false), u"2"_s);
         QCOMPARE(find(0, u"c"_s), u"10"_s);
+        QCOMPARE(find(0, u"none"_s, false), u"10"_s);
+        QCOMPARE(find(1, u"a"_s), u"2"_s);
+    }
+
+    void finds_again_what_was_looked_for() {
+        frmdatagrid& list = open();
+        const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+            program_.window.activateWindow(); // or there are no shortcuts
+            static_cast<void>(QTest::qWaitForWindowActive(&program_.window));
+            person::press_key(list, key, modifiers);
+            return list.value(u"mid"_s);
+        };
+        person::during_modal<frmFind>([](frmFind& dialog) { // nothing was looked for yet
+            person::type(dialog, u"txtV"_s, u"A"_s);
+            choose(dialog, 1, 0);
+        });
+        QCOMPARE(press(Qt::Key_F3), u"2"_s);
+        QCOMPARE(press(Qt::Key_F3), u"11"_s);
+        QCOMPARE(press(Qt::Key_F3, Qt::ShiftModifier), u"2"_s);
+        person::during_modal<frmFind>([](frmFind& dialog) { // it is all there
+            QCOMPARE(person::text_of(dialog, dialog.focusWidget()->objectName()), u"A"_s);
+            QVERIFY(person::find<QRadioButton>(dialog, u"Option1_0"_s).isChecked());
+            person::click(dialog, u"Option1_1"_s);
+            person::press_key(dialog, Qt::Key_Return);
+        });
+        person::expect_box(u"Information"_s, u"Cann't find! "_s);
+        press(Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(press(Qt::Key_F3, Qt::ShiftModifier), u"11"_s); // the other way round
     }
 
     void keeps_its_order_and_row() {
@@ -196,6 +222,20 @@ private slots:
         QCOMPARE(test_database::rows(layout), (QStringList{u"text|1|0"_s, u"mid|2|-1"_s}));
         test_database::execute(
             u"update viewitems set pos=3-pos, Visible=-1, CanSet=-1 where ViewNo='v_smsm'"_s);
+    }
+
+    void one_column_stays_visible() {
+        person::during_modal<frmSetList>([](frmSetList& editor) {
+            for (int row = 0; row < 2; ++row) {
+                grid_of(editor).selectRow(row);
+                QTest::keyClick(&grid_of(editor), Qt::Key_Space);
+            }
+            person::expect_box(u"提示"_s, u"至少要显示一列，请检查！"_s);
+            person::click(editor, u"cmdOK"_s);
+            QVERIFY(editor.isVisible() && !editor.confirmed);
+            person::click(editor, u"cmdCancel"_s);
+        });
+        person::click(open(), u"setfield"_s);
     }
 
     void keeps_its_layout() {

@@ -4,6 +4,7 @@
 #pragma once
 
 class QProcess;
+class QString;
 class frmMain;
 
 /// The tour: four runs of the program over one database. Each is handed the main window when
@@ -21,5 +22,10 @@ chapter second_run;
 chapter third_run;
 /// What an operator without rights may do, with one and without it again.
 chapter fourth_run;
+
+/// Part of the second run: headings, the context menu and the export of the customers.
+void work_in_a_list(frmMain& window);
+/// The marked message of the list in front, in a window of its own.
+void read_a_message(frmMain& window, const QString& expected);
 
 } // namespace tour

@@ -73,8 +73,8 @@ void fill_the_lists() {
 
 void write_a_message(frmMain& window) {
     const auto fill = [](QWidget& dialog) {
-        pick(dialog, u"Cmdrefcus"_s, u"customer-picker"_s, u"客户资料"_s);
-        pick(dialog, u"cmdrefsms"_s, u"phrase-picker"_s, u"常用短语"_s);
+        pick(dialog, u"Cmdrefcus"_s, u"customer-picker"_s, u"客户资料"_s, u"晓梅"_s);
+        pick(dialog, u"cmdrefsms"_s, u"phrase-picker"_s, u"常用短语"_s, u"节日"_s);
     };
     expect_filled("frmSendsms", u"message"_s, fill, {u"txtMobile"_s, u"txtSms"_s},
                   u"13912345678|"_s + greeting, u"成功创建一个短信信息，继续创建吗？ "_s);
@@ -88,7 +88,8 @@ void send_and_receive(frmMain& window, QProcess& gateway) {
     see_rows(u"message-waits"_s, row + u"待发送"_s, window, 4, sent, 6);
     window.startTimer();
     guide::wait_for(u"the sent mark"_s, [&] { return stored(sent) == row + u"已发送"_s; });
-    press(window, u"refresh"_s);
+    guide::wait_for(u"the list to follow"_s,
+                    [&] { return shown(window, 4, 6) == row + u"已发送"_s; });
     see_rows(u"message-sent"_s, row + u"已发送"_s, window, 4, sent, 6);
 
     gateway.write("recv 8613912345678 你好\n");
@@ -96,6 +97,7 @@ void send_and_receive(frmMain& window, QProcess& gateway) {
     guide::wait_for(u"the received message"_s, [&] { return !stored(received).isEmpty(); });
     choose(window, u"mnuIN"_s, u"mnunewcustomer"_s);
     see_rows(u"received"_s, u"李晓梅|13912345678|你好"_s, window, 3, received);
+    tour::read_a_message(window, u"你好"_s);
     press(window, u"Exit"_s);
 }
 
@@ -122,6 +124,7 @@ void tour::second_run(frmMain& window, QProcess& gateway) {
     write_a_message(window);
     send_and_receive(window, gateway);
     sort_and_find(window);
+    tour::work_in_a_list(window);
     choose(window, u"mnuFile"_s, u"logout"_s);
     guide::step(u"logged-out"_s, place + u"|注册"_s, {describe(window)});
     expect_box(u"refused"_s, u"提示|你没有权限操作这项功能!"_s);
@@ -141,9 +144,10 @@ void add_a_class(frmMain& window) {
     see_rows(u"classes"_s, u"会员"_s, window, 1, u"select cname from cusclass"_s);
 }
 
-void expect_member(const QString& step, int customer, const std::function<void()>& next = {}) {
+void expect_member(const QString& step, const QString& customer,
+                   const std::function<void()>& next = {}) {
     const auto fill = [=](QWidget& dialog) {
-        pick(dialog, u"cmdref"_s, step + u"-class"_s, u"客户分类目录"_s);
+        pick(dialog, u"cmdref"_s, step + u"-class"_s, u"客户分类目录"_s, u"会员"_s);
         pick(dialog, u"Cmdrefcus"_s, step + u"-customer"_s, u"客户资料"_s, customer);
     };
     expect_filled("frmGroup", step, fill, {u"txtCcname"_s}, u"会员"_s,
@@ -152,7 +156,7 @@ void expect_member(const QString& step, int customer, const std::function<void()
 
 void put_two_customers_into_it(frmMain& window) {
     choose(window, u"mnuIN"_s, u"mnugroup"_s);
-    expect_member(u"member"_s, 0, [] { expect_member(u"next-member"_s, 1); });
+    expect_member(u"member"_s, u"李晓梅"_s, [] { expect_member(u"next-member"_s, u"王建国"_s); });
     press(window, u"Add"_s);
     see_rows(u"members"_s, u"1|会员|1|李晓梅|13912345678 / 1|会员|2|王建国|13800138000"_s, window,
              5, u"select ccid, cname, cid, cusname, mobile from vwgroup"_s);
@@ -169,8 +173,8 @@ void write_to_the_class_and_to_all(frmMain& window) {
     const QString to_members = u"您预订的商品已经到货，欢迎到店领取。"_s;
     const QString to_all = u"本店明天起九点开门。"_s;
     const auto fill_for_members = [](QWidget& dialog) {
-        pick(dialog, u"Cmdrefcus"_s, u"group-picker"_s, u"客户分类目录"_s);
-        pick(dialog, u"cmdrefsms"_s, u"group-phrase"_s, u"常用短语"_s, 1);
+        pick(dialog, u"Cmdrefcus"_s, u"group-picker"_s, u"客户分类目录"_s, u"会员"_s);
+        pick(dialog, u"cmdrefsms"_s, u"group-phrase"_s, u"常用短语"_s, u"到货"_s);
     };
     const auto fill_for_all = [&to_all](QWidget& dialog) {
         person::click(dialog, u"Chkall"_s);

@@ -126,11 +126,9 @@ void visitor::expect_filled(const char* dialog_class, const QString& step,
 }
 
 void visitor::pick(const QWidget& dialog, const QString& button, const QString& step,
-                   const QString& caption, int downs) {
+                   const QString& caption, const QString& text) {
     person::expect_modal("frmref", [=](QWidget& picker) {
-        for (int i = 0; i < downs; ++i) {
-            person::press_key(picker, Qt::Key_Down);
-        }
+        person::type(picker, u"txtFind"_s, text);
         guide::step(step, caption, {picker.windowTitle()});
         person::press_key(picker, Qt::Key_Return);
     });

@@ -47,9 +47,9 @@ void expect_saving(const char* dialog_class, const QString& step, const QString&
 void expect_filled(const char* dialog_class, const QString& step, const person::answer& fill,
                    const QStringList& boxes, const QString& filled, const QString& saved,
                    const std::function<void()>& next = {});
-/// Clicks a button that opens a picker and takes the row so many below the first.
+/// Clicks a button that opens a picker and takes the first row with a text.
 void pick(const QWidget& dialog, const QString& button, const QString& step, const QString& caption,
-          int downs = 0);
+          const QString& text);
 void expect_login(const QString& step, const QString& password,
                   const QString& name = QStringLiteral("valdrine"));
 /// A step: the list in front, from a row on, and the database show the same.

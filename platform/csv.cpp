@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/csv.h"
+#include "platform/csv.h"
 
 #include <algorithm>
 
