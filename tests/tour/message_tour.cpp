@@ -3,6 +3,7 @@
 
 #include "app/frmMain.h"
 #include "listview/frmdatagrid.h"
+#include "platform/bound_statement.h"
 #include "platform/widgets/data_grid.h"
 #include "tests/support/test_database.h"
 #include "tests/tour/chapters.h"
@@ -99,6 +100,13 @@ void send_and_receive(frmMain& window, QProcess& gateway) {
     see_rows(u"received"_s, u"李晓梅|13912345678|你好"_s, window, 3, received);
     tour::read_a_message(window, u"你好"_s);
     press(window, u"Exit"_s);
+    // A client that goes before would get it again at its next start.
+    SqliteDatabase kept(gateway.arguments().at(1) + u"/relay.db"_s);
+    bound_statement unread(kept, u"SELECT count(*) FROM received WHERE confirmed_at IS NULL"_s);
+    guide::wait_for(u"the gateway to know that it was read"_s, [&unread] {
+        unread.start({});
+        return unread.next() && unread.integer(0) == 0;
+    });
 }
 
 void sort_and_find(frmMain& window) {
