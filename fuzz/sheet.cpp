@@ -4,8 +4,8 @@
 #include "tools/sheet.h"
 #include "data/dialled_number.h"
 #include "fuzz/target.h"
-#include "tools/command.h"
 #include "platform/csv.h"
+#include "tools/command.h"
 #include "tools/customer_sheet.h"
 
 using namespace Qt::StringLiterals;

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "gateway/settings.h"
+#include "gateway/setting_values.h"
 
+#include <QFile>
 #include <QTemporaryFile>
 #include <QTest>
 
@@ -41,6 +42,31 @@ private slots:
         QCOMPARE(all.kannel.password, u"a,;\\ b"_s);
         QCOMPARE(all.kannel.timeout.count(), 5);
         QVERIFY(all.simulator.echo && all.simulator.fail_rate == 0.5);
+    }
+
+    // The delivered sample names every setting and says what holds without it.
+    void reads_the_sample() {
+        QFile file(QStringLiteral(SAMPLE_PATH));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString content = QString::fromUtf8(file.readAll());
+        QCOMPARE(faults(content.toUtf8()), QString());
+        QString section;
+        QStringList names = gateway::setting_names();
+        gateway::settings given;
+        for (const QString& line : content.split(u'\n', Qt::SkipEmptyParts)) {
+            if (line.startsWith(u'[')) {
+                section = line.mid(1).chopped(1);
+            } else if (!line.startsWith(u';')) {
+                names.removeOne(section + u'/' + line.section(u' ', 0, 0));
+            }
+        }
+        QCOMPARE(names.join(u' '), QString());
+        static_cast<void>(faults(content.toUtf8(), &given));
+        const gateway::settings usual;
+        QCOMPARE(given.numbers.short_codes, usual.numbers.short_codes);
+        QCOMPARE(given.kannel.status, usual.kannel.status);
+        QVERIFY(given.http.on == usual.http.on && given.gammu.poll == usual.gammu.poll &&
+                given.gateway.keep_days == usual.gateway.keep_days);
     }
 
     void tells_faults_data() {
