@@ -103,10 +103,10 @@ void server::add_client(QTcpSocket* socket) {
             [this, link](const QString& reason) { remove_client(link, reason); });
     links_.append(link);
     intake_.count_links(link->client(), count_links(link->client()));
-    if (clock_.steady() < trusted_from_) {
-        link->distrust();
-    }
     postman_.add(link);
+    if (clock_.steady() < trusted_from_) {
+        link->distrust(); // it may have left by now
+    }
 }
 
 void server::remove_client(client_link* link, const QString& reason) {

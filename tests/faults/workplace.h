@@ -38,8 +38,9 @@ public:
     /// The next line that it prints; empty when it ends first or prints none within the limit.
     [[nodiscard]] QString line(int limit_ms = watchdog_ms) {
         const auto done = [this] { return canReadLine() || state() == NotRunning; };
-        return QTest::qWaitFor(done, limit_ms) ? QString::fromUtf8(readLine().chopped(1))
-                                               : QString();
+        return QTest::qWaitFor(done, limit_ms)
+                   ? QString::fromUtf8(readLine()).remove(QLatin1Char('\n'))
+                   : QString();
     }
     /// It prints this, perhaps after other lines.
     [[nodiscard]] bool says(const QString& wanted) {
