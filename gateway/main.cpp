@@ -15,6 +15,7 @@
 #include "platform/process_limits.h"
 #include "platform/program_language.h"
 #include "platform/standard_streams.h"
+#include "platform/terminal_application.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -134,7 +135,7 @@ int main(int argc, char* argv[]) {
     // A reader of our output that goes away must not end the gateway, nor a limit on files.
     std::signal(SIGPIPE, SIG_IGN);
     survive_file_size_limit();
-    QCoreApplication app(argc, argv);
+    const auto application = terminal_application(argc, argv);
     QCoreApplication::setApplicationName(u"smsgateway"_s);
     QCoreApplication::setApplicationVersion(QString::fromLatin1(SMSGATEWAY_VERSION));
     speak_users_language(u"smsgateway"_s);

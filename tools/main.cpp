@@ -5,6 +5,7 @@
 #include "platform/process_limits.h"
 #include "platform/program_language.h"
 #include "platform/standard_streams.h"
+#include "platform/terminal_application.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/texts.h"
@@ -97,7 +98,7 @@ int run(QStringList arguments) {
 int main(int argc, char* argv[]) {
     fill_standard_streams();
     survive_file_size_limit();
-    const QCoreApplication application(argc, argv);
+    const auto application = terminal_application(argc, argv);
     speak_users_language(u"smsdb"_s);
     try {
         const int status = run(QCoreApplication::arguments());
