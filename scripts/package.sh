@@ -9,8 +9,6 @@ cmake --preset release -Wno-dev
 cmake --build --preset release
 appstreamcli validate --no-net build/release/packaging/*.metainfo.xml
 desktop-file-validate packaging/*.desktop
-rm -rf build/packages
-cpack --config build/release/CPackConfig.cmake -B build/packages
-rm -rf build/packages/_CPack_Packages
+make_packages build/release
 lintian --fail-on error,warning build/packages/*.deb
 ls -l build/packages

@@ -1,4 +1,4 @@
-# Sourced by the scripts: installs the Debian packages that are named and not there yet.
+# Sourced by the scripts: installs the Debian packages that are named and not there yet, and makes ours.
 
 build_packages=(
     g++ cmake ninja-build pkg-config
@@ -44,4 +44,12 @@ install_packages() {
         echo "Could not install: ${missing[*]}" >&2
         return 1
     fi
+}
+
+# make_packages BUILD: puts the packages of a build folder into build/packages. The permissions of their
+# files are not the packager's.
+make_packages() {
+    rm -rf build/packages
+    (umask 022 && cpack --config "$1/CPackConfig.cmake" -B build/packages)
+    rm -rf build/packages/_CPack_Packages
 }

@@ -3,6 +3,7 @@
 # sources in another folder and in other surroundings, and compares them byte by byte.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
+source scripts/packages.sh
 packages=$PWD/build/packages
 [ -d "$packages" ] || { echo "There are no packages yet: scripts/package.sh makes them." >&2; exit 1; }
 
@@ -15,7 +16,7 @@ export TZ=Asia/Shanghai CCACHE_DISABLE=1
 umask 077
 cmake --preset release -Wno-dev -DSMSCRM_TESTS=OFF
 cmake --build --preset release
-cpack --config build/release/CPackConfig.cmake -B build/packages
+make_packages build/release
 for package in "$packages"/*.deb "$packages"/*.tar.gz; do
     cmp "$package" "build/packages/$(basename "$package")"
     echo "the same again: $(basename "$package")"
