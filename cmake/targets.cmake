@@ -30,11 +30,36 @@ target_compile_definitions(
 # sources make the same program.
 set(resource_options --format-version 1)
 
-# smscrm_library(NAME SOURCES file... LINKS target...): a floor as a static library smscrm_NAME.
+# smscrm_share_headers(TARGET link...): lets a target take the compiled headers of the floors that it
+# links, with the screens' where one of them has those.
+function(smscrm_share_headers target)
+    set(owner "")
+    foreach(link ${ARGN})
+        if(TARGET ${link})
+            get_target_property(floor ${link} smscrm_headers)
+            if(floor AND NOT owner STREQUAL smscrm_platform_widgets)
+                set(owner ${floor})
+            endif()
+        endif()
+    endforeach()
+    if(owner AND SMSCRM_COMPILED_HEADERS)
+        set_target_properties(${target} PROPERTIES smscrm_headers ${owner})
+        target_precompile_headers(${target} REUSE_FROM ${owner})
+    endif()
+endfunction()
+
+# smscrm_library(NAME [HEADERS header...] SOURCES file... LINKS target...): a floor as a static library
+# smscrm_NAME. HEADERS are those of the toolkit that it compiles once for all floors above.
 function(smscrm_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;SOURCES;LINKS")
     add_library(smscrm_${name} STATIC ${arg_SOURCES})
     target_link_libraries(smscrm_${name} PUBLIC smscrm_options ${arg_LINKS})
+    if(arg_HEADERS AND SMSCRM_COMPILED_HEADERS)
+        set_target_properties(smscrm_${name} PROPERTIES smscrm_headers smscrm_${name})
+        target_precompile_headers(smscrm_${name} PRIVATE ${arg_HEADERS})
+    else()
+        smscrm_share_headers(smscrm_${name} ${arg_LINKS})
+    endif()
 endfunction()
 
 # smscrm_program(NAME SOURCES file... LINKS target...): an executable in bin/.
@@ -42,6 +67,7 @@ function(smscrm_program name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE smscrm_options ${arg_LINKS})
+    smscrm_share_headers(${name} ${arg_LINKS})
 endfunction()
 
 # What every test's surroundings hold.
@@ -58,6 +84,7 @@ function(smscrm_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE smscrm_options Qt6::Test ${arg_LINKS})
+    smscrm_share_headers(${name} ${arg_LINKS})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(

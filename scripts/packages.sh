@@ -1,10 +1,11 @@
 # Sourced by the scripts: installs the Debian packages that are named and not there yet, and makes ours.
 
-build_packages=(
-    g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n libsqlite3-dev libcsv-dev mdbtools-dev
+# What the client and the gateway take, and what everything takes.
+run_packages=(
+    g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 qt6-translations-l10n libsqlite3-dev
     fonts-wqy-microhei fonts-dejavu-core
 )
+build_packages=("${run_packages[@]}" pkg-config libcsv-dev mdbtools-dev)
 display_packages=(xvfb xauth openbox)
 lint_packages=(clang-format clang-tidy)
 # What the programs say in Chinese, and the encodings of other terminals for the tests.

@@ -1,19 +1,21 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and starts the gateway simulator and the client. Without a display
+# Installs what is missing, builds the gateway simulator and the client, and starts them. Without a display
 # it runs the guided tour on a virtual one and leaves its pictures in build/tour.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/packages.sh
 
-packages=("${build_packages[@]}")
+packages=("${run_packages[@]}")
+targets=(smscrm smsgateway)
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     packages+=("${display_packages[@]}")
+    targets=(smscrm_tour)
 fi
 install_packages "${packages[@]}"
-cmake --preset release -Wno-dev
-cmake --build --preset release
+cmake --preset run -Wno-dev
+cmake --build --preset run --target "${targets[@]}"
 
-bin=build/release/bin
+bin=build/run/bin
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     echo "No display: the guided tour runs on a virtual one."
     # The window manager gives the pictures their title bars.
