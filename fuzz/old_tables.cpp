@@ -42,7 +42,7 @@ void read_all(const QString& path) {
         const qsizetype columns = table.columns().size();
         table.for_each_row([columns](const QJsonArray& row) {
             expect(row.size() == columns, "a row has a value for each column");
-            for (const QJsonValue& value : row) {
+            for (const auto& value : row) {
                 check_value(value);
             }
         });
