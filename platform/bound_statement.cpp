@@ -51,6 +51,10 @@ void bound_statement::stop() noexcept {
     sqlite3_reset(statement_.get());
 }
 
+int bound_statement::column_count() const {
+    return sqlite3_column_count(statement_.get());
+}
+
 qint64 bound_statement::integer(int column) const {
     return sqlite3_column_int64(statement_.get(), column);
 }

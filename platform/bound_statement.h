@@ -25,6 +25,7 @@ public:
     [[nodiscard]] bool next();
     void stop() noexcept;
 
+    [[nodiscard]] int column_count() const;
     [[nodiscard]] qint64 integer(int column) const;
     [[nodiscard]] QString text(int column) const;
     [[nodiscard]] bool is_null(int column) const;

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/gateway/gammu_stage.h"
+
+#include "platform/sqlite_database.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+// The dummy phone has no radio to be asked about, and is looked at without a pause.
+constexpr const char* daemon_settings = "[gammu]\nmodel = dummy\nconnection = none\nport = %1\n"
+                                        "[smsd]\nservice = sql\ndriver = sqlite3\ndbdir = %2\n"
+                                        "database = smsd.db\nloopsleep = 0\ncommtimeout = 1\n"
+                                        "receivefrequency = 1\nchecksecurity = 0\n"
+                                        "checkbattery = 0\nchecksignal = 0\nchecknetwork = 0\n"
+                                        "deliveryreport = log\n";
+
+void write(const QString& path, const QString& content) {
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content.toUtf8());
+}
+
+} // namespace
+
+gammu_stage::gammu_stage() {
+    settings.database = path(u"smsd.db"_s);
+    settings.poll = 50ms;
+    QFile tables(u"/usr/share/doc/gammu-smsd/examples/sqlite.sql"_s);
+    if (!tables.open(QIODevice::ReadOnly)) {
+        qFatal("gammu-smsd's tables are not installed: %s", qPrintable(tables.fileName()));
+    }
+    SqliteDatabase(settings.database, SqliteDatabase::Mode::create)
+        .execute_script(("BEGIN;" + tables.readAll() + "COMMIT").constData());
+    QDir().mkpath(path(u"phone/sms/1"_s));
+    write(path(u"smsdrc"_s),
+          QString::fromLatin1(daemon_settings).arg(path(u"phone"_s), folder_.path()));
+    daemon_.setStandardErrorFile(path(u"log"_s));
+}
+
+void gammu_stage::start_daemon() {
+    run(u"DELETE FROM phones"_s);
+    daemon_.start(u"gammu-smsd"_s, {u"-c"_s, path(u"smsdrc"_s)});
+    QTRY_VERIFY2_WITH_TIMEOUT(!column(u"SELECT IMEI FROM phones"_s).isEmpty(),
+                              qPrintable(daemon_.errorString()), 30'000);
+}
+
+void gammu_stage::stop_daemon() {
+    daemon_.kill();
+    daemon_.waitForFinished();
+}
+
+void gammu_stage::sign_in(const QString& age) {
+    run(u"INSERT OR REPLACE INTO phones (ID, IMEI, IMSI, Client, Signal, InsertIntoDB, TimeOut, "
+        "UpdatedInDB) VALUES ('', '1', '1', '', 70, datetime('now', 'localtime', '-1 hour'), "
+        "datetime('now', 'localtime', '%1'), datetime('now', '%1'))"_s.arg(age));
+}
+
+void gammu_stage::start_engine() {
+    engine.emplace(settings);
+    engine->start(sink);
+}
+
+void gammu_stage::receive(const QString& sender, const QString& text, const QString& header) {
+    QString hex;
+    for (const QChar c : text) {
+        hex += u"%1"_s.arg(c.unicode(), 4, 16, QChar(u'0'));
+    }
+    QString content =
+        u"[SMSBackup000]\nPDU = Deliver\nDateTime = 20260102T030405\nState = UnRead\nNumber = \"%1\"\nCoding = Unicode_No_Compression\nFolder = 1\nLength = %2\nClass = -1\nUDH = %3\n"_s
+            .arg(sender, QString::number(text.size()), header);
+    constexpr qsizetype line = 200;
+    for (qsizetype i = 0; i * line < hex.size(); ++i) {
+        content += u"Text%1 = %2\n"_s.arg(i, 2, 10, QChar(u'0')).arg(hex.mid(i * line, line));
+    }
+    // The phone shall not see half of it.
+    write(path(u"new"_s), content);
+    QVERIFY(QFile::rename(path(u"new"_s), path(u"phone/sms/1/%1"_s.arg(++dropped_))));
+}
+
+QStringList gammu_stage::column(const QString& sql) const {
+    QStringList values;
+    for (const QStringList& row : gateway::gammu_database(settings).rows(sql)) {
+        values.append(row.first());
+    }
+    return values;
+}

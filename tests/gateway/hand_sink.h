@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "gateway/backend.h"
+
+#include <QList>
+#include <QMap>
+
+/// Keeps what an engine brings, unless it is told not to.
+class hand_sink final : public gateway::network_sink {
+public:
+    void settle(gateway::message_id id, const gateway::handover& outcome) override {
+        settled.insert(id, outcome);
+        ++settles;
+    }
+    [[nodiscard]] bool take(const gateway::report& told) override { return keep(reports, told); }
+    [[nodiscard]] bool take(const gateway::incoming_message& message) override {
+        return keep(received, message);
+    }
+    [[nodiscard]] bool take(const gateway::incoming_part& part) override {
+        return keep(parts, part);
+    }
+    void health_changed() override {}
+
+    QMap<gateway::message_id, gateway::handover> settled;
+    int settles = 0;
+    QList<gateway::report> reports;
+    QList<gateway::incoming_message> received;
+    QList<gateway::incoming_part> parts;
+    bool keeps = true;
+
+private:
+    template <class News>
+    bool keep(QList<News>& all, const News& one) const {
+        if (keeps) {
+            all.append(one);
+        }
+        return keeps;
+    }
+};

@@ -1,0 +1,289 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/gateway/gammu_stage.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+using gateway::handover_result;
+
+/// Our engine on gammu-smsd's tables: what the daemon would write is written by hand.
+class test_gateway_gammu : public QObject {
+    Q_OBJECT
+
+    /// Moves what is queued to what was sent, as the daemon does.
+    static void send(gammu_stage& stage, const QString& status) {
+        stage.run(u"INSERT INTO sentitems (ID, CreatorID, SenderID, Text, UDH, Status, TPMR, "
+                  "SendingDateTime) SELECT ID, CreatorID, '', '', '', '%1', 9, datetime('now', "
+                  "'localtime') FROM outbox"_s.arg(status));
+        stage.run(u"DELETE FROM outbox"_s);
+    }
+
+    /// The daemon takes the message into its hand, so long ago, for so many seconds.
+    static void take_in_hand(gammu_stage& stage, int seconds_ago, int seconds) {
+        stage.run(u"DROP TRIGGER update_outbox_time"_s);
+        stage.run(u"UPDATE outbox SET UpdatedInDB = datetime('now', '-%1 seconds'), SendingTimeOut "
+                  "= datetime('now', 'localtime', '%2 seconds')"_s.arg(seconds_ago)
+                      .arg(seconds - seconds_ago));
+    }
+
+    static QStringList queue(const gammu_stage& stage) {
+        return stage.column(u"SELECT CreatorID FROM outbox"_s);
+    }
+
+private slots:
+    void tells_what_is_wrong_data() {
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("fine") << u"SELECT 1"_s << u"signal 70 %"_s;
+        QTest::newRow("no table") << u"DROP TABLE outbox_multipart"_s << u"no such table"_s;
+        QTest::newRow("no column")
+            << u"ALTER TABLE inbox DROP COLUMN Processed"_s << u"no such column"_s;
+        QTest::newRow("version") << u"UPDATE gammu SET Version = 16"_s << u"of version 17"_s;
+        QTest::newRow("no version") << u"DELETE FROM gammu"_s << u"of version 17"_s;
+        QTest::newRow("no modem") << u"DELETE FROM phones"_s << u"has not begun"_s;
+        QTest::newRow("stale") << u"UPDATE phones SET TimeOut = datetime('now', 'localtime', '-3 "
+                                  "minutes')"_s
+                               << u"signal 70 %"_s; // it has sent since
+    }
+
+    void tells_what_is_wrong() {
+        QFETCH(QString, sql);
+        QFETCH(QString, told);
+        gammu_stage stage;
+        stage.sign_in();
+        stage.run(sql);
+        stage.start_engine();
+        const bool is_fine = told.contains(u"signal");
+        QTRY_VERIFY2(stage.engine->health().text.contains(told),
+                     qPrintable(stage.engine->health().text));
+        QCOMPARE(stage.engine->health().up, is_fine);
+        std::optional<QString> fault;
+        stage.engine->check([&fault](const QString& what) { fault = what; });
+        QTRY_VERIFY(fault.has_value());
+        QVERIFY(is_fine ? fault->isEmpty() : fault->contains(told));
+    }
+
+    void recovers_data() {
+        QTest::addColumn<QByteArray>("content"); // of the file meanwhile
+        QTest::addColumn<QString>("told");
+        QTest::newRow("gone") << QByteArray() << u"no such file"_s;
+        QTest::newRow("damaged") << QByteArray(8192, 'x') << u"damaged"_s;
+    }
+
+    void recovers() {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, told);
+        gammu_stage stage;
+        stage.sign_in();
+        stage.start_engine();
+        QTRY_VERIFY(stage.engine->health().up);
+        const QString kept = stage.path(u"kept"_s);
+        QVERIFY(QFile::rename(stage.settings.database, kept));
+        if (!content.isEmpty()) {
+            QFile file(stage.settings.database);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(content);
+        }
+        QTRY_VERIFY2(stage.engine->health().text.contains(told),
+                     qPrintable(stage.engine->health().text));
+        QVERIFY(!stage.engine->health().up);
+        stage.engine->hand_over({1, u"10086"_s, u"text"_s});
+        QFile::remove(stage.settings.database);
+        QVERIFY(QFile::rename(kept, stage.settings.database));
+        QTRY_COMPARE(queue(stage), QStringList{u"smsgateway/1"_s});
+        QVERIFY(stage.engine->health().up);
+    }
+
+    void waits_for_a_lock() {
+        gammu_stage stage;
+        stage.sign_in();
+        stage.start_engine();
+        QTRY_VERIFY(stage.engine->health().up);
+        {
+            gateway::gammu_database other(stage.settings);
+            other.together([&] {
+                stage.engine->hand_over({1, u"10086"_s, u"text"_s});
+                QTRY_VERIFY(stage.engine->health().text.contains(u"locked"));
+            });
+        }
+        QTRY_COMPARE(queue(stage), QStringList{u"smsgateway/1"_s});
+        QCOMPARE(stage.sink.settles, 0);
+    }
+
+    void refuses_what_cannot_be_sent() {
+        gammu_stage stage;
+        stage.sign_in();
+        stage.start_engine();
+        const QStringList numbers{{}, u"+"_s, u"BANK"_s, u"1391234567８"_s};
+        for (qsizetype i = 0; i < numbers.size(); ++i) {
+            stage.engine->hand_over({i, numbers[i], u"text"_s});
+        }
+        stage.engine->hand_over({9, u"10086"_s, QString(1, QChar(u'\0'))});
+        QTRY_COMPARE(stage.sink.settles, 5);
+        for (const auto& outcome : std::as_const(stage.sink.settled)) {
+            QVERIFY(outcome.result == handover_result::refused);
+        }
+        QVERIFY(queue(stage).isEmpty());
+    }
+
+    void follows_a_message_data() {
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QString>("report"); // what the status turns into next
+        QTest::addColumn<int>("fate");
+        const auto row = [](const QString& status, handover_result result, const QString& report,
+                            gateway::fate what) {
+            QTest::addRow("%s, %s", qPrintable(status), qPrintable(report))
+                << status << static_cast<int>(result) << report << static_cast<int>(what);
+        };
+        row(u"SendingOK"_s, handover_result::accepted, u"DeliveryOK"_s, gateway::fate::delivered);
+        row(u"SendingOK"_s, handover_result::accepted, u"DeliveryPending"_s,
+            gateway::fate::buffered);
+        row(u"SendingOK"_s, handover_result::accepted, u"DeliveryFailed"_s,
+            gateway::fate::undelivered);
+        row(u"DeliveryPending"_s, handover_result::accepted, u"DeliveryOK"_s,
+            gateway::fate::delivered);
+    }
+
+    void follows_a_message() {
+        QFETCH(QString, report);
+        gammu_stage stage;
+        stage.sign_in();
+        stage.start_engine();
+        stage.engine->hand_over({7, u"10086"_s, u"text"_s});
+        QTRY_COMPARE(queue(stage).size(), 1);
+        send(stage, *static_cast<QString*>(QTest::qData("status", QMetaType::QString)));
+        QTRY_COMPARE(stage.sink.settles, 1);
+        QTEST(static_cast<int>(stage.sink.settled[7].result), "result");
+        QCOMPARE(stage.sink.settled[7].ref, u"9"_s);
+        stage.sink.keeps = false;
+        stage.run(u"UPDATE sentitems SET Status = '%1'"_s.arg(report));
+        // Told again until it is kept, and once; also by a gateway that was started meanwhile.
+        for (int starts = 0; starts < 2; ++starts) {
+            stage.sink.reports.clear();
+            stage.sink.keeps = true;
+            QTRY_COMPARE(stage.sink.reports.size(), 1);
+            QCOMPARE(stage.sink.reports.first().id, 7);
+            QTEST(static_cast<int>(stage.sink.reports.first().what), "fate");
+            stage.start_engine();
+        }
+    }
+
+    void asks_data() {
+        QTest::addColumn<QString>("sql"); // what happened while the gateway was down
+        QTest::addColumn<int>("result");
+        QTest::newRow("sent") << u"sent"_s << static_cast<int>(handover_result::accepted);
+        QTest::newRow("refused") << u"refused"_s << static_cast<int>(handover_result::refused);
+        QTest::newRow("never queued") << u"never"_s << static_cast<int>(handover_result::not_now);
+        QTest::newRow("died over") << u"died"_s << static_cast<int>(handover_result::unknown);
+        QTest::newRow("restarted") << u"restarted"_s << static_cast<int>(handover_result::unknown);
+        QTest::newRow("waits for a retry")
+            << u"retry"_s << static_cast<int>(handover_result::unknown);
+        QTest::newRow("sent long ago") << u"old"_s << static_cast<int>(handover_result::accepted);
+        QTest::newRow("phone away") << u"away"_s << static_cast<int>(handover_result::not_now);
+    }
+
+    void asks() {
+        QFETCH(QString, sql);
+        gammu_stage stage;
+        stage.sign_in();
+        stage.start_engine();
+        if (sql != u"never") {
+            stage.engine->hand_over({7, u"10086"_s, u"text"_s});
+            QTRY_COMPARE(queue(stage).size(), 1);
+        }
+        stage.engine.reset();
+        if (sql == u"sent" || sql == u"old") {
+            send(stage, u"SendingOK"_s);
+        } else if (sql == u"refused") {
+            send(stage, u"SendingError"_s);
+        } else if (sql == u"died") {
+            take_in_hand(stage, 70, 60);
+        } else if (sql == u"restarted") {
+            take_in_hand(stage, 10, 60);
+            stage.run(u"UPDATE phones SET InsertIntoDB = datetime('now', 'localtime')"_s);
+        } else if (sql == u"retry") {
+            take_in_hand(stage, 10, 600);
+        } else if (sql == u"away") {
+            stage.sign_in(u"-3 minutes"_s);
+        }
+        if (sql == u"old") {
+            stage.run(u"UPDATE sentitems SET SendingDateTime = '2020-01-01 00:00:00'"_s);
+        }
+        stage.start_engine();
+        stage.engine->ask(7);
+        QTRY_COMPARE(stage.sink.settles, 1);
+        QTEST(static_cast<int>(stage.sink.settled[7].result), "result");
+        // What the daemon might send again is kept from it, and a person may want it sent again.
+        const bool is_held = sql == u"died" || sql == u"restarted";
+        QCOMPARE(
+            stage.column(u"SELECT ID FROM outbox WHERE SendingTimeOut > '9999-01-01'"_s).size(),
+            is_held ? 1 : 0);
+        stage.engine->hand_over({7, u"10086"_s, u"text"_s});
+        QTRY_COMPARE(queue(stage).size(), sql == u"away" ? 0 : 1);
+        QTRY_VERIFY(
+            stage.column(u"SELECT ID FROM outbox WHERE SendingTimeOut > '9999-01-01'"_s).isEmpty());
+    }
+
+    void keeps_the_last_of_two_attempts() {
+        gammu_stage stage;
+        stage.sign_in();
+        stage.start_engine();
+        for (const QString& status : {u"SendingError"_s, u"SendingOK"_s}) {
+            stage.engine->hand_over({7, u"10086"_s, u"text"_s});
+            QTRY_COMPARE(queue(stage).size(), 1);
+            send(stage, status);
+            QTRY_VERIFY(stage.sink.settled.contains(7));
+            QVERIFY((stage.sink.settled.take(7).result == handover_result::accepted) ==
+                    (status == u"SendingOK"));
+        }
+        stage.start_engine();
+        stage.engine->ask(7);
+        QTRY_VERIFY(stage.sink.settled.contains(7));
+        QVERIFY(stage.sink.settled[7].result == handover_result::accepted);
+    }
+
+    void knows_what_vanished() {
+        gammu_stage stage;
+        stage.sign_in();
+        stage.start_engine();
+        stage.engine->hand_over({7, u"10086"_s, u"text"_s});
+        QTRY_COMPARE(queue(stage).size(), 1);
+        stage.run(u"DELETE FROM outbox"_s);
+        QTRY_COMPARE(stage.sink.settles, 1);
+        stage.start_engine();
+        stage.engine->ask(7);
+        QTRY_COMPARE(stage.sink.settles, 2);
+        QVERIFY(stage.sink.settled[7].result == handover_result::unknown);
+    }
+
+    void leaves_what_is_not_ours() {
+        gammu_stage stage;
+        stage.settings.phone_id = u"b"_s;
+        stage.sign_in();
+        stage.run(u"UPDATE phones SET ID = 'b'"_s);
+        for (const QString& creator : {u"x"_s, u"smsgateway/1"_s, u"smsgateway/b/x"_s}) {
+            stage.run(
+                u"INSERT INTO outbox (CreatorID, SendingTimeOut) VALUES ('%1', '2020-01-01')"_s.arg(
+                    creator));
+        }
+        stage.run(
+            u"INSERT INTO inbox (Text, UDH, RecipientID, Status) VALUES ('0061', '', 'a', 0), "
+            "('0062', '', 'b', 2), ('0063', '', 'b', -1), ('0064', '', 'b', 0)"_s);
+        stage.sink.keeps = false;
+        stage.start_engine();
+        QTRY_VERIFY(stage.engine->health().up);
+        QCOMPARE(stage.column(u"SELECT ID FROM inbox WHERE Processed = 'true'"_s).size(), 0);
+        stage.sink.keeps = true;
+        QTRY_COMPARE(stage.column(u"SELECT Text FROM inbox WHERE Processed = 'true'"_s),
+                     (QStringList{u"0063"_s, u"0064"_s}));
+        QCOMPARE(stage.sink.received.size(), 2);
+        QCOMPARE(
+            stage.column(u"SELECT ID FROM outbox WHERE SendingTimeOut = '2020-01-01'"_s).size(), 3);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_gateway_gammu)
+#include "test_gateway_gammu.moc"
