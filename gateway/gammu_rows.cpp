@@ -144,20 +144,19 @@ qint64 gammu_rows::first_recent() {
 
 QMap<qint64, gammu_trace> gammu_rows::survey(qint64 from) {
     // A message is in hand when it was put away for a minute, and left there when that time is over
-    // or a daemon began after it was taken.
+    // or a daemon began after it was taken; within the same second it may be that daemon's.
     const auto rows = database_.rows(
         u"SELECT 0, ID, CreatorID, SendingTimeOut <> SendingDateTime, SendingTimeOut <> "
         "SendingDateTime AND strftime('%s', SendingTimeOut) - strftime('%s', UpdatedInDB, "
-        "'localtime') <= 60, SendingTimeOut < datetime('now', 'localtime') OR (SELECT "
-        "max(InsertIntoDB) FROM phones WHERE ?3 IN ('', ID)) >= datetime(UpdatedInDB, "
-        "'localtime'), SendingTimeOut >= '9999-01-01', 1 + (SELECT count(*) FROM outbox_multipart "
-        "WHERE "
-        "outbox_multipart.ID = outbox.ID), SendingTimeOut, UpdatedInDB > "
-        "datetime('now', '-4 days') FROM outbox WHERE substr(CreatorID, 1, length(?2)) = ?2 "
-        "UNION ALL SELECT SequencePosition, ID, CreatorID, Status, StatusError, StatusCode, TPMR, "
-        "'', '', SendingDateTime > datetime('now', 'localtime', '-4 days') FROM sentitems WHERE ID "
-        ">= ?1 AND substr(CreatorID, 1, length(?2)) = ?2 "
-        "ORDER BY 2, 1"_s,
+        "'localtime') <= 60, SendingTimeOut < datetime('now', 'localtime') OR began > "
+        "datetime(UpdatedInDB, 'localtime') OR began = datetime(UpdatedInDB, 'localtime') AND "
+        "UpdatedInDB < datetime('now', '-10 seconds'), SendingTimeOut >= '9999-01-01', 1 + (SELECT "
+        "count(*) FROM outbox_multipart WHERE outbox_multipart.ID = outbox.ID), SendingTimeOut, "
+        "UpdatedInDB > datetime('now', '-4 days') FROM outbox, (SELECT max(InsertIntoDB) AS began "
+        "FROM phones WHERE ?3 IN ('', ID)) WHERE substr(CreatorID, 1, length(?2)) = ?2 UNION ALL "
+        "SELECT SequencePosition, ID, CreatorID, Status, StatusError, StatusCode, TPMR, '', '', "
+        "SendingDateTime > datetime('now', 'localtime', '-4 days') FROM sentitems WHERE ID >= ?1 "
+        "AND substr(CreatorID, 1, length(?2)) = ?2 ORDER BY 2, 1"_s,
         {from, creator_prefix_, phone_id_});
     QMap<qint64, gammu_trace> traces;
     for (const QStringList& row : rows) {

@@ -202,7 +202,7 @@ private slots:
         } else if (sql == u"died") {
             take_in_hand(stage, 70, 60);
         } else if (sql == u"restarted") {
-            take_in_hand(stage, 10, 60);
+            take_in_hand(stage, 40, 60);
             stage.run(u"UPDATE phones SET InsertIntoDB = datetime('now', 'localtime')"_s);
         } else if (sql == u"retry") {
             take_in_hand(stage, 10, 600);
