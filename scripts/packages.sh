@@ -10,6 +10,8 @@ display_packages=(xvfb xauth openbox)
 lint_packages=(clang-format clang-tidy)
 # What the programs say in Chinese, and the encodings of other terminals for the tests.
 translation_packages=(qt6-l10n-tools locales)
+# What the gateway speaks to; its tests start them themselves.
+engine_packages=(gammu-smsd libdbd-sqlite3)
 packaging_packages=(appstream desktop-file-utils dpkg-dev file lintian pandoc)
 
 # packages_missing NAME...: prints those that are not installed.
@@ -18,6 +20,18 @@ packages_missing() {
     for name in "$@"; do
         dpkg-query --show --showformat='${Status}\n' "$name" 2>/dev/null |
             grep -q '^install ok installed$' || echo "$name"
+    done
+}
+
+# silence_engines NAME...: those of them that came as services of this machine serve no more.
+silence_engines() {
+    local name
+    [ -d /run/systemd/system ] || return 0
+    for name in "$@"; do
+        if [[ " ${engine_packages[*]} " == *" $name "* ]] &&
+            systemctl cat "$name.service" >/dev/null 2>&1; then
+            "${as_root[@]}" systemctl disable --now --quiet "$name.service"
+        fi
     done
 }
 
@@ -41,10 +55,13 @@ install_packages() {
     echo "Installing: ${missing[*]}"
     if ! "${as_root[@]}" apt-get update -qq ||
         ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-            apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null; then
+            apt-get install -y -qq --no-install-recommends \
+            -o Dpkg::Options::="--path-include=/usr/share/doc/*/examples/*" \
+            "${missing[@]}" >/dev/null; then
         echo "Could not install: ${missing[*]}" >&2
         return 1
     fi
+    silence_engines "${missing[@]}"
 }
 
 # make_packages BUILD: puts the packages of a build folder into build/packages. The permissions of their

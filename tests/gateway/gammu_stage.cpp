@@ -12,13 +12,34 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// The dummy phone has no radio to be asked about, and is looked at without a pause.
-constexpr const char* daemon_settings = "[gammu]\nmodel = dummy\nconnection = none\nport = %1\n"
-                                        "[smsd]\nservice = sql\ndriver = sqlite3\ndbdir = %2\n"
-                                        "database = smsd.db\nloopsleep = 0\ncommtimeout = 1\n"
-                                        "receivefrequency = 1\nchecksecurity = 0\n"
-                                        "checkbattery = 0\nchecksignal = 0\nchecknetwork = 0\n"
-                                        "deliveryreport = log\n";
+/// Behind the sample settings: the dummy phone has no radio to be asked about, and is looked at
+/// without a pause.
+constexpr const char* haste = "loopsleep = 0\nchecksecurity = 0\ncheckbattery = 0\n"
+                              "checksignal = 0\nchecknetwork = 0\n";
+
+/// The sample settings with a dummy phone and a database in this folder.
+QString daemon_settings(const QString& folder) {
+    QFile file(u"" GAMMU_SMSDRC ""_s);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("no sample settings: %s", qPrintable(file.fileName()));
+    }
+    QString text = QString::fromUtf8(file.readAll()) + QString::fromLatin1(haste);
+    const QList<std::pair<QString, QString>> changes{
+        {u"/dev/ttyUSB0"_s, folder + u"/phone"_s},
+        {u"connection = at"_s, u"connection = none\nmodel = dummy"_s},
+        {u"logfile = syslog"_s, u"logfile = stderr"_s},
+        {u"/var/lib/gammu-smsd"_s, folder},
+        {u"receivefrequency = 5"_s, u"receivefrequency = 1"_s},
+        {u"commtimeout = 5"_s, u"commtimeout = 1"_s},
+    };
+    for (const auto& [sample, here] : changes) {
+        if (!text.contains(sample)) {
+            qFatal("the sample settings lack %s", qPrintable(sample));
+        }
+        text.replace(sample, here);
+    }
+    return text;
+}
 
 void write(const QString& path, const QString& content) {
     QFile file(path);
@@ -38,8 +59,7 @@ gammu_stage::gammu_stage() {
     SqliteDatabase(settings.database, SqliteDatabase::Mode::create)
         .execute_script(("BEGIN;" + tables.readAll() + "COMMIT").constData());
     QDir().mkpath(path(u"phone/sms/1"_s));
-    write(path(u"smsdrc"_s),
-          QString::fromLatin1(daemon_settings).arg(path(u"phone"_s), folder_.path()));
+    write(path(u"smsdrc"_s), daemon_settings(folder_.path()));
     daemon_.setStandardErrorFile(path(u"log"_s));
 }
 
