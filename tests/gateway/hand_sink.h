@@ -30,12 +30,15 @@ public:
     QList<gateway::incoming_message> received;
     QList<gateway::incoming_part> parts;
     bool keeps = true;
+    int turned_away = 0;
 
 private:
     template <class News>
-    bool keep(QList<News>& all, const News& one) const {
+    bool keep(QList<News>& all, const News& one) {
         if (keeps) {
             all.append(one);
+        } else {
+            ++turned_away;
         }
         return keeps;
     }
