@@ -225,6 +225,12 @@ private slots:
         stage.engine->ask(7);
         QTRY_VERIFY(stage.sink.settled.contains(7));
         QVERIFY(stage.sink.settled[7].result == handover_result::accepted);
+        // Once it has looked again, it has told everything.
+        stage.run(u"INSERT INTO inbox (Text, UDH, RecipientID) VALUES ('0061', '', '')"_s);
+        QTRY_COMPARE(stage.sink.received.size(), 1);
+        for (const gateway::report& told : std::as_const(stage.sink.reports)) {
+            QVERIFY(told.what == gateway::fate::accepted);
+        }
     }
 
     void knows_what_vanished() {
