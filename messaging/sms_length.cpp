@@ -3,6 +3,8 @@
 
 #include "messaging/sms_length.h"
 
+#include "platform/gsm_alphabet.h"
+
 #include <QList>
 
 #include <algorithm>
@@ -19,18 +21,6 @@ struct encoding {
 
 constexpr encoding gsm_7bit{160, 153};
 constexpr encoding ucs_2{70, 67};
-
-/// Units of a character in the 7-bit alphabet: two with its escape; 0 when it is not in it.
-qsizetype gsm_units(char32_t character) {
-    static const QString basic =
-        u"@£$¥èéùìòÇ\nØø\rÅåΔ_ΦΓΛΩΠΨΣΘΞÆæßÉ !\"#¤%&'()*+,-./0123456789:;<=>?¡ABCDEFGHIJKLMNOPQRSTUVWXYZÄÖÑÜ§¿abcdefghijklmnopqrstuvwxyzäöñüà"_s;
-    static const QString escaped = u"\f^{}\\[~]|€"_s;
-    if (QChar::requiresSurrogates(character)) {
-        return 0;
-    }
-    const QChar letter(static_cast<char16_t>(character));
-    return basic.contains(letter) ? 1 : escaped.contains(letter) ? 2 : 0;
-}
 
 qsizetype messages_for(const QList<qsizetype>& units, const encoding& used) {
     if (std::accumulate(units.begin(), units.end(), qsizetype{0}) <= used.alone) {
