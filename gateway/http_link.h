@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "gateway/http_server.h"
+
+#include <QTcpSocket>
+#include <QTimer>
+
+namespace gateway {
+
+/// One connection to the HTTP server: requests one after another, each answered before the next is
+/// read. One that is slower or greedier than any honest client is ended.
+class http_link : public QObject {
+    Q_OBJECT
+
+public:
+    /// Serves the connected socket and becomes its parent.
+    http_link(QTcpSocket* socket, const http_handler& handler, QObject* parent);
+    ~http_link() override;
+
+signals:
+    /// Something came.
+    void heard();
+    /// The connection is over.
+    void closed();
+
+private:
+    void read();
+    [[nodiscard]] bool serve_next();
+    void watch(bool served);
+    void drain();
+    void finish();
+    void lose_patience();
+
+    QTcpSocket* socket_;
+    http_handler handler_;
+    QByteArray buffer_;
+    QTimer patience_;
+    bool between_ = false;   ///< nothing of a next request has come
+    bool ending_ = false;    ///< no request is read any more
+    bool finishing_ = false; ///< closing as soon as the answer is written
+    qint64 drained_ = 0;
+};
+
+} // namespace gateway
