@@ -93,6 +93,16 @@ QString set_digits(const QString& value, QString& target, qsizetype most) {
     return {};
 }
 
+/// A part of an address that another program writes into its own settings.
+QString set_secret(const QString& value, QString& target) {
+    static const QRegularExpression letters(u"\\A[A-Za-z0-9_-]{16,200}\\z"_s);
+    if (!value.isEmpty() && !letters.match(value).hasMatch()) {
+        return say("16 to 200 letters of English, digits, \"_\" and \"-\"");
+    }
+    target = value;
+    return {};
+}
+
 QString set_patterns(const QString& value, QStringList& target) {
     static const QRegularExpression pattern(u"\\A[0-9x]+\\*?\\z"_s);
     QStringList patterns;
@@ -184,7 +194,7 @@ constexpr std::array known{
     setting{u"gammu/poll_ms", [](values& s, text& v) { return set_time(v, s.gammu.poll, 50); }},
     setting{u"http/on", [](values& s, text& v) { return choose(v, s.http.on); }},
     setting{u"http/listen", [](values& s, text& v) { return set_endpoint(v, s.http.listen); }},
-    setting{u"http/secret", [](values& s, text& v) { return set_text(v, s.http.secret); }},
+    setting{u"http/secret", [](values& s, text& v) { return set_secret(v, s.http.secret); }},
 };
 // clang-format on
 

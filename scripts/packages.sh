@@ -11,7 +11,7 @@ lint_packages=(clang-format clang-tidy)
 # What the programs say in Chinese, and the encodings of other terminals for the tests.
 translation_packages=(qt6-l10n-tools locales)
 # What the gateway speaks to; its tests start them themselves.
-engine_packages=(gammu-smsd libdbd-sqlite3)
+engine_packages=(gammu-smsd kannel kannel-extras libdbd-sqlite3)
 packaging_packages=(appstream desktop-file-utils dpkg-dev file lintian pandoc)
 
 # packages_missing NAME...: prints those that are not installed.
@@ -20,18 +20,6 @@ packages_missing() {
     for name in "$@"; do
         dpkg-query --show --showformat='${Status}\n' "$name" 2>/dev/null |
             grep -q '^install ok installed$' || echo "$name"
-    done
-}
-
-# silence_engines NAME...: those of them that came as services of this machine serve no more.
-silence_engines() {
-    local name
-    [ -d /run/systemd/system ] || return 0
-    for name in "$@"; do
-        if [[ " ${engine_packages[*]} " == *" $name "* ]] &&
-            systemctl cat "$name.service" >/dev/null 2>&1; then
-            "${as_root[@]}" systemctl disable --now --quiet "$name.service"
-        fi
     done
 }
 
@@ -61,7 +49,6 @@ install_packages() {
         echo "Could not install: ${missing[*]}" >&2
         return 1
     fi
-    silence_engines "${missing[@]}"
 }
 
 # make_packages BUILD: puts the packages of a build folder into build/packages. The permissions of their
@@ -70,4 +57,26 @@ make_packages() {
     rm -rf build/packages
     (umask 022 && cpack --config "$1/CPackConfig.cmake" -B build/packages)
     rm -rf build/packages/_CPack_Packages
+}
+
+# install_engines: the same for the engines, without their services: a package that is installed
+# starts its service at once and at every start of the machine. An engine that is there already is
+# left as it is.
+install_engines() {
+    local missing name status=0 policy=/usr/sbin/policy-rc.d as_root=()
+    mapfile -t missing < <(packages_missing "${engine_packages[@]}")
+    [ ${#missing[@]} -gt 0 ] || return 0
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    if [ -e "$policy" ]; then
+        policy=
+    else
+        printf '#!/bin/sh\nexit 101\n' | "${as_root[@]}" tee "$policy" >/dev/null
+        "${as_root[@]}" chmod 755 "$policy"
+    fi
+    install_packages "${missing[@]}" || status=1
+    [ -z "$policy" ] || "${as_root[@]}" rm -f "$policy"
+    for name in "${missing[@]}"; do
+        [ ! -e "/etc/init.d/$name" ] || "${as_root[@]}" update-rc.d "$name" disable 2>/dev/null || status=1
+    done
+    return "$status"
 }

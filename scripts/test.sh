@@ -5,8 +5,8 @@ set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source scripts/packages.sh
 
-install_packages "${build_packages[@]}" "${translation_packages[@]}" "${display_packages[@]}" \
-    "${engine_packages[@]}"
+install_packages "${build_packages[@]}" "${translation_packages[@]}" "${display_packages[@]}"
+install_engines
 
 for preset in release asan; do
     cmake --preset "$preset" -Wno-dev

@@ -31,7 +31,7 @@ private slots:
         QCOMPARE(faults("; a comment\n[gateway]\nengine = kannel\nlisten = [::1]:9200\n"
                         "tell_failures=refused\n[numbers]\nshort_codes = 106*, xxx\n"
                         "[kannel]\nusername=店\npassword = \"a,;\\\\ b\"\ntimeout_s=5\n"
-                        "[http]\nsecret=x\n[simulator]\necho = yes\nfail_rate=0.5\n",
+                        "[http]\nsecret=0123456789abcdef\n[simulator]\necho = yes\nfail_rate=0.5\n",
                         &all),
                  QString());
         QVERIFY(all.gateway.engine == gateway::engine_name::kannel);
@@ -88,6 +88,8 @@ private slots:
         row("[http]\non = yes\non = no", u":3: http/on stands already in line 2"_s);
         row("[http]\nlisten", u":2: expected \"[section]\""_s);
         row("[gammu]\npassword = a;b", u":2: gammu/password: a value with"_s);
+        row("[http]\nsecret = a%b/c-of-sixteen",
+            u":2: http/secret: expected 16 to 200 letters"_s);
         row("[gateway]\nengine = gammu", u": gammu/database is missing"_s);
     }
 

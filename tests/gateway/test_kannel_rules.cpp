@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#include "gateway/kannel_callbacks.h"
+#include "gateway/kannel_request.h"
+#include "gateway/kannel_status.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using gateway::fate;
+using gateway::handover_result;
+
+class test_kannel_rules : public QObject {
+    Q_OBJECT
+
+private slots:
+    void submits() {
+        gateway::kannel_settings wanted;
+        wanted.sendsms = QUrl(u"http://[::1]:13013/cgi-bin/sendsms"_s);
+        wanted.username = u"店"_s;
+        wanted.password = u"a  b\r\nX-Kannel-To: 1"_s; // ends no field
+        wanted.smsc = u"office"_s;
+        const QByteArray bytes = gateway::kannel_submission(
+            wanted, {7, u"+8613912345678"_s, u" 您好😀\r\n"_s},
+            gateway::kannel_report_url("http://127.0.0.1:9101/kannel/s/", 7));
+        QCOMPARE(bytes, "POST /cgi-bin/sendsms HTTP/1.0\r\nHost: [::1]:13013\r\n"
+                        "Connection: keep-alive\r\nContent-Type: text/plain; charset=UTF-8\r\n"
+                        "X-Kannel-Username: 店\r\nX-Kannel-Password: a  bX-Kannel-To: 1\r\n"
+                        "X-Kannel-To: +8613912345678\r\nX-Kannel-Coding: 2\r\n"
+                        "X-Kannel-DLR-Mask: 31\r\nX-Kannel-DLR-Url: http://127.0.0.1:9101/kannel/s/"
+                        "report?id=7&type=%d&ans=%A&fid=%F\r\nX-Kannel-SMSC: office\r\n"
+                        "Content-Length: 13\r\n\r\n 您好😀\r\n");
+        for (const QString& gsm : {u"^{}\\[~]|€"_s, u"à@£\n"_s}) {
+            QVERIFY(gateway::kannel_submission(wanted, {7, {}, gsm}, {}).contains("Coding: 0"));
+        }
+        wanted.status_password = u"a&b+%"_s;
+        QVERIFY(gateway::kannel_status_request(wanted).startsWith(
+            "GET /status.xml?password=a%26b%2B%25 HTTP/1.0\r\n"));
+    }
+
+    void understands_answers_data() {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<handover_result>("result");
+        QTest::addColumn<bool>("bad_settings");
+        const auto row = [](int status, const char* body, handover_result result,
+                            bool bad = false) {
+            QTest::addRow("%d %s", status, body) << status << QByteArray(body) << result << bad;
+        };
+        using enum handover_result;
+        row(202, "0: Accepted for delivery", accepted);
+        row(202, "3: Queued for later delivery", accepted);
+        row(202, "<html>", unknown);
+        row(200, "0: Accepted for delivery", unknown);
+        row(400, "Missing receiver number, rejected", refused);
+        row(400, "Number(s) has/have been denied by white- and/or black-lists.", refused);
+        row(400, "Sender missing and no global set, rejected", not_now, true);
+        row(400, "DLR-URL field misformed, rejected", not_now, true);
+        row(403, "Authorization failed for sendsms", not_now, true);
+        row(404, "Unknown request.", not_now, true);
+        row(301, "", not_now, true);
+        row(503, "Temporal failure, try again later.", not_now);
+        row(502, "Bad Gateway", unknown);
+    }
+
+    void understands_answers() {
+        QFETCH(int, status);
+        QFETCH(QByteArray, body);
+        const auto verdict = gateway::read_submission_answer(status, body);
+        QTEST(verdict.outcome.result, "result");
+        QTEST(verdict.bad_settings, "bad_settings");
+        QCOMPARE(gateway::read_probe_answer(status, body).isEmpty(),
+                 body.startsWith("Missing receiver"));
+    }
+
+    void reads_reports_data() {
+        QTest::addColumn<QByteArray>("query");
+        QTest::addColumn<QString>("meaning");
+        const auto row = [](const char* query, const QString& meaning) {
+            QTest::newRow(query) << QByteArray(query) << meaning;
+        };
+        row("id=7&type=8&ans=ACK%2F&fid=ab-1", u"7 0 ab-1  0"_s);
+        row("id=7&type=1&ans=&fid=x", u"7 2 x  0"_s);
+        row("id=7&type=4", u"7 1   0"_s);
+        row("id=7&type=16&ans=NACK%2F1+bad+number&fid=", u"7 4  NACK/1 bad number 1"_s);
+        row("id=7&type=16&ans=NACK%2FRetries%20Exceeded", u"7 4  NACK/Retries Exceeded 6"_s);
+        row("id=7&type=2&ans=stat:UNDELIV%0Aerr:%00%ff", u"7 3  stat:UNDELIV err:\uFFFD 5"_s);
+        row("type=8", u"id is missing or stands there twice"_s);
+        row("id=7&id=8&type=8", u"id is missing or stands there twice"_s);
+        row("id=-7&type=8", u"id is no positive number"_s);
+        row("id=99999999999999999999&type=8", u"id is no positive number"_s);
+        row("id=7&type=3", u"type is none of 1, 2, 4, 8, 16"_s);
+    }
+
+    void reads_reports() {
+        QFETCH(QByteArray, query);
+        const auto read = gateway::read_kannel_report(*gateway::read_query(query));
+        if (const auto* fault = std::get_if<gateway::callback_fault>(&read)) {
+            QTEST(fault->text, "meaning");
+            return;
+        }
+        const auto told = std::get<gateway::report>(read);
+        QTEST(u"%1 %2 %3 %4 %5"_s.arg(QString::number(told.id), QString::number(int(told.what)),
+                                      told.ref, told.reason, QString::number(int(told.cause))),
+              "meaning");
+    }
+
+    void reads_messages_data() {
+        QTest::addColumn<QByteArray>("query");
+        QTest::addColumn<QString>("meaning"); // the text, or the fault
+        const auto row = [](const QByteArray& query, const QString& meaning) {
+            QTest::newRow(query.left(80).constData()) << query << meaning;
+        };
+        const QByteArray who = "id=u-1&from=%2B8613912345678&time=1795299861";
+        row(who + "&text=it's++two%0A&coding=0&charset=UTF-8", u"it's  two\n"_s);
+        row(who + "&text=%00'%60%A8%D8%3D%DE%00&coding=2&charset=utf-16be", u"'您😀"_s);
+        row(who + "&text=%00%ff&coding=1&charset=", u"(a message that is no text: 00ff)"_s);
+        row(who + "&text=&coding=0&charset=UTF-8", QString());
+        row(who + "&text=%ff&coding=0&charset=UTF-8", u"the text is not in its character set"_s);
+        row(who + "&text=abc&coding=2&charset=UTF-16BE", u"the text is not in its character set"_s);
+        row(who + "&text=a&coding=0&charset=KOI8-R",
+            u"the character set is neither UTF-8 nor UTF-16BE"_s);
+        row(who + "&text=a&text=b&coding=0&charset=UTF-8",
+            u"text is missing or stands there twice"_s);
+        row(who + "&from=1&text=b&coding=0&charset=UTF-8",
+            u"from is missing or stands there twice"_s);
+        row("id=1&from=" + QByteArray(65, '1') + "&time=1&text=b&coding=0&charset=UTF-8",
+            u"from is no text of up to 64 characters"_s);
+        row("id=&from=1&time=1&text=b&coding=0&charset=UTF-8", u"id or from is empty"_s);
+        row("id=1&from=1&time=x&text=b&coding=0&charset=UTF-8", u"time is no positive number"_s);
+        row("id=1&from=1&time=999999999999999&text=b&coding=0&charset=UTF-8",
+            u"time is no moment"_s);
+    }
+
+    void reads_messages() {
+        QFETCH(QByteArray, query);
+        const auto read = gateway::read_kannel_message(*gateway::read_query(query));
+        const auto* fault = std::get_if<gateway::callback_fault>(&read);
+        if (fault == nullptr) {
+            const auto& message = std::get<gateway::incoming_message>(read);
+            QCOMPARE(message.key + message.sender, u"u-1+8613912345678"_s);
+            QCOMPARE(message.time.toSecsSinceEpoch(), 1'795'299'861);
+        }
+        QTEST(fault != nullptr ? fault->text : std::get<gateway::incoming_message>(read).text,
+              "meaning");
+    }
+
+    void knows_its_callers() {
+        using enum gateway::kannel_call;
+        QVERIFY(gateway::which_call("secret/report", "secret") == report);
+        QVERIFY(gateway::which_call("secret/received", "secret") == message);
+        for (const char* other : {"secret", "secre/report", "secret2/report", "Secret/report",
+                                  "/report", "secret/other", "secret/report/"}) {
+            QVERIFY2(gateway::which_call(other, "secret") == none, other);
+        }
+        QVERIFY(gateway::which_call("/report", "") == none);
+    }
+
+    void reads_the_status() {
+        const auto tell = [](const QByteArray& xml) {
+            return gateway::tell(gateway::read_kannel_status(200, xml));
+        };
+        QCOMPARE(tell("<gateway><sms><storesize>12</storesize></sms><smscs><count>2</count>"
+                      "<smsc><status>online 3s</status></smsc>"
+                      "<smsc><status>re-connecting</status></smsc></smscs></gateway>\n"),
+                 u"1 of 2 links online, 12 messages stored"_s);
+        QCOMPARE(tell("<?xml version=\"1.0\"?>\n<gateway>\nDenied</gateway>\n"),
+                 u"Kannel does not know this status password"_s);
+        QCOMPARE(tell("<gateway><smscs>"), u"this is no status.xml of Kannel (HTTP 200)"_s);
+        QCOMPARE(tell("<html></html>"), u"this is no status.xml of Kannel (HTTP 200)"_s);
+    }
+};
+
+Q_DECLARE_METATYPE(gateway::handover_result)
+
+QTEST_GUILESS_MAIN(test_kannel_rules)
+#include "test_kannel_rules.moc"
