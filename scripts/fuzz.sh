@@ -9,9 +9,10 @@ source scripts/packages.sh
 
 minutes=${1:-10}
 targets=("${@:2}")
-[ ${#targets[@]} -gt 0 ] || targets=(client_frame display_format find_and_sort gateway_frames old_tables sheet statement)
+[ ${#targets[@]} -gt 0 ] || targets=(client_frame display_format find_and_sort gateway_frames
+    http_callback old_tables sheet statement)
 # Long enough for all that a target tells apart, short enough for some 20,000 runs a second.
-declare -A longest=([client_frame]=256 [gateway_frames]=1600)
+declare -A longest=([client_frame]=256 [gateway_frames]=1600 [http_callback]=1024)
 # The library that reads old files tells of all that it stumbles over.
 declare -A quiet=([old_tables]=2)
 
