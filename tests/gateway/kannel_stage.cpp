@@ -3,6 +3,7 @@
 
 #include "kannel_stage.h"
 
+#include <QDir>
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <QTcpServer>
@@ -17,28 +18,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto configuration =
-    u"group = core\n"
-    "admin-port = %1\nadmin-interface = 127.0.0.1\nadmin-password = owner\n"
-    "status-password = look\nsmsbox-port = %2\nsmsbox-interface = 127.0.0.1\n"
-    "store-type = spool\nstore-location = %3\ndlr-storage = internal\n"
-    "sms-resend-freq = 1\nsms-resend-retry = 1\nlog-file = %3/bearerbox.log\n"
-    "\ngroup = smsc\nsmsc = fake\nsmsc-id = fake\nallowed-smsc-id = fake\nport = %4\n"
-    "connect-allow-ip = 127.0.0.1\n"
-    "\ngroup = smsc\nsmsc = http\nsmsc-id = provider\nallowed-smsc-id = provider\n"
-    "system-type = generic\nport = %5\nconnect-allow-ip = 127.0.0.1\n"
-    "smsc-username = u\nsmsc-password = p\n"
-    "send-url = \"http://127.0.0.1:%6/send?to=%p\"\n"
-    "status-success-regex = \"^0\"\nstatus-permfail-regex = \"^1\"\n"
-    "status-tempfail-regex = \"^9\"\n"
-    "\ngroup = smsbox\nbearerbox-host = 127.0.0.1\nsendsms-port = %7\n"
-    "sendsms-interface = 127.0.0.1\nlog-file = %3/smsbox.log\n"
-    "http-request-retry = 1000\nhttp-queue-delay = 1\n"
-    "\ngroup = sendsms-user\nusername = relay\npassword = \"p a&ss=1%\"\n"
-    "concatenation = true\nmax-messages = 255\n"
-    "\ngroup = sms-service\nkeyword = default\ncatch-all = true\n"
-    "max-messages = 0\nget-url = \"%8received?id=%I&from=%p&time=%T&text=%b"
-    "&coding=%c&charset=%C\"\n"_s;
+// The centre that fakesmsc plays; the provider beside it is the sample's.
+const auto fake_centre = u"group = smsc\nsmsc = fake\nsmsc-id = fake\nallowed-smsc-id = fake\n"
+                         "port = CHANGE-port\nconnect-allow-ip = 127.0.0.1\n\n"_s;
+
+QString sample(const QString& name) {
+    QFile file(QStringLiteral(KANNEL_SAMPLES "/%1.conf").arg(name));
+    [&] { QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName())); }();
+    return QString::fromUtf8(file.readAll());
+}
 
 quint16 free_port() {
     QTcpServer probe;
@@ -61,21 +49,31 @@ QString from_wide(const QByteArray& bytes) {
 
 } // namespace
 
-kannel_stage::kannel_stage(const QString& calls)
+kannel_stage::kannel_stage(const QString& calls, const QString& network)
     : sendsms_port(free_port()),
       admin_port(free_port()),
       smsbox_port_(free_port()),
       fake_port_(free_port()),
       provider_port_(free_port()) {
-    provider_.handle("/send", [](const gateway::http_request& request) {
-        const QByteArray to = gateway::only_value(request.query, "to").value_or(QByteArray());
-        return gateway::http_response{200, to.endsWith('1')   ? "1 bad number"
-                                           : to.endsWith('9') ? "9 busy"
-                                                              : "0 taken"};
+    provider_.handle("/send", [this](const gateway::http_request& request) {
+        const auto value = [&request](const char* name) {
+            return QString::fromUtf8(gateway::only_value(request.query, name).value_or("?"));
+        };
+        at_provider.append(value("to") + u' ' + value("text"));
+        return gateway::http_response{200, value("to").endsWith(u'1')   ? "1 bad number"
+                                           : value("to").endsWith(u'9') ? "9 busy"
+                                                                        : "0 ref-1"};
     });
     [&] {
         QCOMPARE(provider_.listen({QHostAddress(QHostAddress::LocalHost), 0}), QString());
-        write_configuration(calls);
+        QVERIFY(QDir(folder_.path()).mkpath(u"spool/store"_s));
+        QVERIFY(QDir(folder_.path()).mkpath(u"spool/reports"_s));
+        write(u"kannel.conf"_s, sample(u"kannel"_s), calls);
+        write(u"network.conf"_s,
+              network.isEmpty()
+                  ? fake_centre + sample(u"provider"_s) + u"allowed-smsc-id = network\n"_s
+                  : sample(network),
+              calls);
     }();
 }
 
@@ -86,20 +84,29 @@ kannel_stage::~kannel_stage() {
     }
 }
 
-void kannel_stage::write_configuration(const QString& calls) const {
-    QString text = configuration;
-    const QStringList values{QString::number(admin_port),
-                             QString::number(smsbox_port_),
-                             folder_.path(),
-                             QString::number(fake_port_),
-                             QString::number(provider_port_),
-                             QString::number(provider_.place().port),
-                             QString::number(sendsms_port),
-                             calls};
-    for (qsizetype i = 0; i < values.size(); ++i) {
-        text.replace(u"%%1"_s.arg(i + 1), values[i]);
+void kannel_stage::write(const QString& name, QString text, const QString& calls) const {
+    const auto number = [](quint16 port) { return QString::number(port); };
+    const std::pair<QString, QString> changes[]{
+        {u"/etc/kannel"_s, folder_.path()},
+        {u"/var/spool/kannel"_s, folder_.filePath(u"spool"_s)},
+        {u"/var/log/kannel"_s, folder_.path()},
+        {u"= 13000"_s, u"= "_s + number(admin_port)},
+        {u"= 13001"_s, u"= "_s + number(smsbox_port_)},
+        {u"= 13013"_s, u"= "_s + number(sendsms_port)},
+        {u"= 13015"_s, u"= "_s + number(provider_port_)},
+        {u"CHANGE-port"_s, number(fake_port_)},
+        {u"CHANGE-host/"_s, u"127.0.0.1:%1/"_s.arg(provider_.place().port)},
+        {u"CHANGE-address-of-the-provider"_s, u"127.0.0.1"_s},
+        {u"CHANGE-password"_s, u"p a&ss=1%"_s},
+        {u"http://127.0.0.1:9101/kannel/CHANGE-secret/"_s, calls},
+        // Faster than in an office.
+        {u"sms-resend-freq = 60"_s, u"sms-resend-freq = 1"_s},
+        {u"sms-resend-retry = 1440"_s, u"sms-resend-retry = 1"_s},
+        {u"http-queue-delay = 10"_s, u"http-queue-delay = 1"_s}};
+    for (const auto& [from, to] : changes) {
+        text.replace(from, to);
     }
-    QFile file(folder_.filePath(u"kannel.conf"_s));
+    QFile file(folder_.filePath(name));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(text.toUtf8());
 }
@@ -136,15 +143,11 @@ void kannel_stage::start_fakesmsc() {
 
 void kannel_stage::receive(const QString& sender, const QString& text,
                            const QByteArray& header) const {
-    QByteArray wide;
-    for (const QChar unit : text) {
-        wide += '%' + QByteArray(1, static_cast<char>(unit.row())).toHex() + '%' +
-                QByteArray(1, static_cast<char>(unit.cell())).toHex();
-    }
     QTcpSocket socket;
     socket.connectToHost(QHostAddress::LocalHost, provider_port_);
-    socket.write("GET /sms?username=u&password=p&to=10690&coding=2&charset=UTF-16BE&from=" +
-                 QUrl::toPercentEncoding(sender) + "&text=" + wide +
+    socket.write("GET /sms?username=CHANGE-their-user&password=CHANGE-their-password&to=10690"
+                 "&coding=2&charset=UTF-8&from=" +
+                 QUrl::toPercentEncoding(sender) + "&text=" + QUrl::toPercentEncoding(text) +
                  (header.isEmpty() ? QByteArray() : "&udh=%" + header.toHex('%')) +
                  " HTTP/1.0\r\n\r\n");
     QTRY_VERIFY(socket.bytesAvailable() > 0);

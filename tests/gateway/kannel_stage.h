@@ -9,14 +9,15 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// Kannel itself on free ports of this machine: bearerbox, smsbox, and two centres: "fake", played
-/// by Kannel's fakesmsc, and "provider", a provider of HTTP that the stage plays: it refuses a
-/// number that ends in 1, has no time for one that ends in 9, and takes all others. Its user is
-/// "relay" with the password "p a&ss=1%", its status password is "look".
+/// Kannel itself on free ports of this machine, with the sample configuration that goes with the
+/// gateway, and two centres: "fake", played by Kannel's fakesmsc, and "network", a provider of HTTP
+/// that the stage plays: it refuses a number that ends in 1, has no time for one that ends in 9,
+/// and takes all others.
 class kannel_stage {
 public:
-    /// Kannel brings what it receives to the address, which ends with a slash.
-    explicit kannel_stage(const QString& calls);
+    /// Kannel brings what it receives to the address, which ends with a slash. With the name of a
+    /// sample of a network, there is that network alone.
+    explicit kannel_stage(const QString& calls, const QString& network = {});
     ~kannel_stage();
 
     /// Each waits until the program serves.
@@ -25,17 +26,19 @@ public:
     void start_fakesmsc();
     void kill_smsbox();
 
-    /// A message (UTF-16BE) comes to the provider; `header` is that of a part of a long one.
+    /// A message comes from the provider; `header` is that of a part of a long one.
     void receive(const QString& sender, const QString& text, const QByteArray& header = {}) const;
 
     /// What fakesmsc got for the number: the parts' texts, in the order of arrival.
     [[nodiscard]] QStringList at_fake(const QString& number);
 
+    QStringList at_provider; ///< "number text", one for every call
+
     quint16 sendsms_port = 0;
     quint16 admin_port = 0;
 
 private:
-    void write_configuration(const QString& calls) const;
+    void write(const QString& name, QString text, const QString& calls) const;
     void run(QProcess& program, const QString& path, const QStringList& arguments);
 
     QTemporaryDir folder_;

@@ -30,9 +30,9 @@ private:
         gateway::kannel_settings wanted;
         wanted.sendsms.setPort(stage_->sendsms_port);
         wanted.status.setPort(stage_->admin_port);
-        wanted.username = u"relay"_s;
+        wanted.username = u"smsgateway"_s;
         wanted.password = u"p a&ss=1%"_s;
-        wanted.status_password = u"look"_s;
+        wanted.status_password = u"CHANGE-status"_s;
         wanted.from = u"10690"_s;
         wanted.smsc = smsc;
         return wanted;
@@ -62,6 +62,10 @@ private:
         return told.value_or(u"nothing was told"_s);
     }
 
+    QString calls() const {
+        return u"http://127.0.0.1:%1/kannel/%2/"_s.arg(server_.place().port).arg(secret);
+    }
+
     gateway::http_server server_;
     std::unique_ptr<kannel_stage> stage_;
     std::unique_ptr<noting_sink> sink_;
@@ -71,8 +75,7 @@ private:
 private slots:
     void initTestCase() {
         QCOMPARE(server_.listen({QHostAddress(QHostAddress::LocalHost), 0}), QString());
-        stage_ = std::make_unique<kannel_stage>(
-            u"http://127.0.0.1:%1/kannel/%2/"_s.arg(server_.place().port).arg(secret));
+        stage_ = std::make_unique<kannel_stage>(calls());
         stage_->start_bearerbox();
         QVERIFY(fault_of(fitting({})).startsWith(u"kannel/sendsms: Connection refused"));
         stage_->start_smsbox();
@@ -82,6 +85,12 @@ private slots:
     void cleanupTestCase() {
         engine_.reset();
         stage_.reset();
+    }
+
+    void every_sample_is_read() {
+        for (const QString& network : {u"smpp"_s, u"provider"_s, u"modem"_s}) {
+            kannel_stage(calls(), network).start_bearerbox();
+        }
     }
 
     void checks_the_connection() {
@@ -131,7 +140,13 @@ private slots:
     }
 
     void reports_are_told_until_they_are_kept() {
-        start(u"provider"_s);
+        start(u"network"_s);
+        const QString text = u"您好 ^€\n😀"_s.repeated(30);
+        QVERIFY(hand_over(u"+8613912345670"_s, text).result == handover_result::accepted);
+        QTRY_VERIFY_WITH_TIMEOUT(sink_->has_report(last_id_, fate::accepted), long_wait);
+        QCOMPARE(sink_->reports.last().ref, u"ref-1"_s);
+        QCOMPARE(stage_->at_provider, QStringList(u"+8613912345670 "_s + text));
+        sink_->reports.clear();
         sink_->keeps = false;
         QVERIFY(hand_over(u"+8613912345671"_s, u"您好"_s).result == handover_result::accepted);
         QTRY_VERIFY_WITH_TIMEOUT(sink_->reports.size() > 1, long_wait);
@@ -145,7 +160,7 @@ private slots:
     }
 
     void received_messages_come_whole() {
-        start(u"provider"_s);
+        start(u"network"_s);
         sink_->keeps = false;
         const QString first(67, u'好');
         const QString second = u"it's  two\n😀"_s;
@@ -167,7 +182,7 @@ private slots:
     }
 
     void waits_for_a_kannel_that_is_down() {
-        start(u"provider"_s);
+        start(u"network"_s);
         stage_->kill_smsbox();
         const auto outcome = hand_over(u"+8613912345670"_s, u"您好"_s);
         QVERIFY(outcome.result == handover_result::not_now);
