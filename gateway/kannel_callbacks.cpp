@@ -6,6 +6,7 @@
 #include "gateway/kannel_request.h"
 #include "gateway/message_text.h"
 
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -85,6 +86,15 @@ QString words_of(const http_fields& query, QByteArrayView name) {
     return QString::fromUtf8(words.left(max_words)).remove(QChar()).simplified();
 }
 
+/// What counts in a centre's receipt ("id:7 ... stat:UNDELIV err:001 text:..."), which repeats the
+/// beginning of the message; other words as they are.
+QString reason_of(const QString& words) {
+    static const QRegularExpression receipt(u"^id:.*? stat:(\\S+)(?: err:(\\S+))?"_s);
+    const auto match = receipt.match(words);
+    return match.hasMatch() ? u"%1 %2"_s.arg(match.captured(1), match.captured(2)).trimmed()
+                            : words;
+}
+
 QString decode_message(const QByteArray& content, const QByteArray& coding,
                        const QByteArray& charset, call_reader& call) {
     if (coding == "1") {
@@ -126,10 +136,9 @@ std::variant<report, callback_fault> read_kannel_report(const http_fields& query
     if (!call.fault().isEmpty()) {
         return callback_fault{call.fault()};
     }
-    const QString words = words_of(query, "ans");
     const bool failed = *what == fate::undelivered || *what == fate::refused;
-    return report{id, *what, words_of(query, "fid"), failed ? words : QString(),
-                  failed ? kannel_failure_cause(words) : failure_cause::unspecified};
+    const QString reason = failed ? reason_of(words_of(query, "ans")) : QString();
+    return report{id, *what, words_of(query, "fid"), reason, kannel_failure_cause(reason)};
 }
 
 std::variant<incoming_message, callback_fault> read_kannel_message(const http_fields& query) {

@@ -140,7 +140,6 @@ failure_cause kannel_failure_cause(const QString& words) {
                                       std::pair(u"black", blocked),
                                       std::pair(u"barred", blocked),
                                       std::pair(u"blocked", blocked),
-                                      std::pair(u"rejectd", blocked),
                                       std::pair(u"opt-out", blocked),
                                       std::pair(u"content", content),
                                       std::pair(u"spam", content),

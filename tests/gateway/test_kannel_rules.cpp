@@ -85,6 +85,11 @@ private slots:
         row("id=7&type=4", u"7 1   0"_s);
         row("id=7&type=16&ans=NACK%2F1+bad+number&fid=", u"7 4  NACK/1 bad number 1"_s);
         row("id=7&type=16&ans=NACK%2FRetries%20Exceeded", u"7 4  NACK/Retries Exceeded 6"_s);
+        row("id=7&type=16&ans=NACK/0x0000000b/Invalid+Destination+Address",
+            u"7 4  NACK/0x0000000b/Invalid Destination Address 1"_s);
+        row("id=7&type=2&fid=06&ans=id:06+sub:001+dlvrd:001+submit+date:2601010000+stat:UNDELIV"
+            "+err:001+text:your+number",
+            u"7 3 06 UNDELIV 001 5"_s);
         row("id=7&type=2&ans=stat:UNDELIV%0Aerr:%00%ff", u"7 3  stat:UNDELIV err:\uFFFD 5"_s);
         row("type=8", u"id is missing or stands there twice"_s);
         row("id=7&id=8&type=8", u"id is missing or stands there twice"_s);
