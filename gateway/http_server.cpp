@@ -5,16 +5,10 @@
 
 #include "gateway/http_link.h"
 
-using namespace std::chrono_literals;
-
 namespace gateway {
 
 http_server::http_server(QObject* parent) : QObject(parent) {
     connect(&listener_, &QTcpServer::newConnection, this, &http_server::accept);
-    // Without descriptors an accept fails again at once, so it rests.
-    connect(&listener_, &QTcpServer::acceptError, this, &http_server::pause);
-    resume_.setSingleShot(true);
-    connect(&resume_, &QTimer::timeout, &listener_, &QTcpServer::resumeAccepting);
 }
 
 void http_server::handle(const QByteArray& prefix, const http_handler& handler) {
@@ -51,11 +45,6 @@ void http_server::serve(QTcpSocket* socket) {
         links_.removeOne(link);
         link->deleteLater();
     });
-}
-
-void http_server::pause() {
-    listener_.pauseAccepting();
-    resume_.start(1s);
 }
 
 http_response http_server::answer(const http_request& request) const {

@@ -7,7 +7,6 @@
 #include "gateway/settings.h"
 
 #include <QTcpServer>
-#include <QTimer>
 
 #include <functional>
 
@@ -27,7 +26,9 @@ class http_server : public QObject {
 public:
     /// The longest request: a received message of 255 parts, every byte of it escaped.
     static constexpr qsizetype max_request = 131'072;
-    /// Connections at a time; one more ends the one that was silent for longest.
+    /// Connections at a time; one more ends the one that was silent for longest. So few that the
+    /// descriptors which the relay leaves to others suffice: the toolkit's server spins without
+    /// them.
     static constexpr qsizetype max_links = 64;
 
     explicit http_server(QObject* parent = nullptr);
@@ -44,12 +45,10 @@ public:
 
 private:
     void accept();
-    void pause();
     void serve(QTcpSocket* socket);
     [[nodiscard]] http_response answer(const http_request& request) const;
 
     QTcpServer listener_;
-    QTimer resume_;
     QList<std::pair<QByteArray, http_handler>> handlers_;
     QList<http_link*> links_; ///< the one heard of last at the end
 };
