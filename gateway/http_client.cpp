@@ -5,10 +5,12 @@
 
 #include "gateway/http_client_link.h"
 
+#include <utility>
+
 namespace gateway {
 
-http_client::http_client(const QUrl& server, std::chrono::milliseconds timeout, QObject* parent)
-    : QObject(parent), server_(server), timeout_(timeout) {}
+http_client::http_client(QUrl server, std::chrono::milliseconds timeout, QObject* parent)
+    : QObject(parent), server_(std::move(server)), timeout_(timeout) {}
 
 void http_client::send(const QByteArray& request, const answer_handler& done) {
     http_client_link* link = nullptr;

@@ -34,7 +34,7 @@ public:
     using answer_handler = std::function<void(const http_answer& answer)>;
 
     /// Speaks to the host and port of `server`. An answer may take as long as `timeout`.
-    http_client(const QUrl& server, std::chrono::milliseconds timeout, QObject* parent = nullptr);
+    http_client(QUrl server, std::chrono::milliseconds timeout, QObject* parent = nullptr);
 
     /// Sends a whole request, which asks for the connection to be kept. `done` is called once, from
     /// the event loop; never if the client ends before.

@@ -24,9 +24,8 @@ constexpr qsizetype max_answer = 1'048'576;
 
 } // namespace
 
-http_client_link::http_client_link(const QUrl& server, std::chrono::milliseconds timeout,
-                                   QObject* parent)
-    : QObject(parent), server_(server), timeout_(timeout) {
+http_client_link::http_client_link(QUrl server, std::chrono::milliseconds timeout, QObject* parent)
+    : QObject(parent), server_(std::move(server)), timeout_(timeout) {
     socket_.setProxy(QNetworkProxy::NoProxy);
     patience_.setSingleShot(true);
     connect(&socket_, &QTcpSocket::connected, this, &http_client_link::write);

@@ -13,10 +13,11 @@ namespace gateway {
 /// One connection of an HTTP client, with one request at a time.
 class http_client_link : public QObject {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(http_client_link)
 
 public:
     /// Connects with the first request.
-    http_client_link(const QUrl& server, std::chrono::milliseconds timeout, QObject* parent);
+    http_client_link(QUrl server, std::chrono::milliseconds timeout, QObject* parent);
     ~http_client_link() override;
 
     /// Sends a request; answered() or gone() follows, from the event loop.

@@ -3,6 +3,8 @@
 
 #include "gateway/http_link.h"
 
+#include <utility>
+
 using namespace std::chrono_literals;
 
 namespace gateway {
@@ -21,8 +23,8 @@ constexpr qint64 max_unread = 262'144;
 
 } // namespace
 
-http_link::http_link(QTcpSocket* socket, const http_handler& handler, QObject* parent)
-    : QObject(parent), socket_(socket), handler_(handler) {
+http_link::http_link(QTcpSocket* socket, http_handler handler, QObject* parent)
+    : QObject(parent), socket_(socket), handler_(std::move(handler)) {
     socket_->setParent(this);
     socket_->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     socket_->setReadBufferSize(http_server::max_request);

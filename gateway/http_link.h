@@ -14,10 +14,11 @@ namespace gateway {
 /// read. One that is slower or greedier than any honest client is ended.
 class http_link : public QObject {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(http_link)
 
 public:
     /// Serves the connected socket and becomes its parent.
-    http_link(QTcpSocket* socket, const http_handler& handler, QObject* parent);
+    http_link(QTcpSocket* socket, http_handler handler, QObject* parent);
     ~http_link() override;
 
 signals:

@@ -228,7 +228,7 @@ QByteArray response_bytes(const http_response& response, bool head_only, bool st
 }
 
 http_answer_reading read_answer(const QByteArray& bytes, bool ended) {
-    const http_answer_reading broken{http_progress::broken, 0, {}, false};
+    http_answer_reading broken{http_progress::broken, 0, {}, false};
     const http_head head = read_head(bytes);
     if (head.progress != http_progress::whole) {
         return ended || head.progress == http_progress::broken ? broken : http_answer_reading{};

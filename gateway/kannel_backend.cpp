@@ -29,10 +29,11 @@ constexpr std::chrono::milliseconds between_complaints = 1min;
 
 QByteArray base_of_calls(const QUrl& wanted, const http_server& calls) {
     endpoint here = calls.place();
-    if (here.address == QHostAddress::Any || here.address == QHostAddress::AnyIPv4) {
-        here.address = QHostAddress::LocalHost;
-    } else if (here.address == QHostAddress::AnyIPv6) {
-        here.address = QHostAddress::LocalHostIPv6;
+    if (here.address == QHostAddress(QHostAddress::AnyIPv6)) {
+        here.address = QHostAddress(QHostAddress::LocalHostIPv6);
+    } else if (QList<QHostAddress>{QHostAddress::Any, QHostAddress::AnyIPv4}.contains(
+                   here.address)) {
+        here.address = QHostAddress(QHostAddress::LocalHost);
     }
     QByteArray base = wanted.isEmpty() ? "http://" + endpoint_text(here).toLatin1()
                                        : wanted.toEncoded(QUrl::RemoveQuery);

@@ -20,6 +20,7 @@ namespace gateway {
 /// asked for a message, so ask() never knows: only a report tells, or a person.
 class kannel_backend final : public QObject, public backend {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(kannel_backend)
 
 public:
     /// Begins the paths that Kannel calls; the secret follows.

@@ -37,7 +37,7 @@ public:
 
     [[nodiscard]] QString text(QByteArrayView name, qsizetype most) {
         QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-        const QString value = decoder.decode(bytes(name));
+        QString value = decoder.decode(bytes(name));
         if (decoder.hasError() || value.size() > most || value.contains(u'\0')) {
             complain(
                 say("%1 is no text of up to %2 characters").arg(QLatin1StringView(name)).arg(most));
@@ -108,7 +108,7 @@ QString decode_message(const QByteArray& content, const QByteArray& coding,
     // Half a pair of surrogates shows as a sign of its own; a message is not refused for it.
     QStringDecoder decoder(wide ? QStringDecoder::Utf16BE : QStringDecoder::Utf8,
                            QStringDecoder::Flag::Stateless);
-    const QString text = decoder.decode(content);
+    QString text = decoder.decode(content);
     if (wide ? content.size() % 2 != 0 : decoder.hasError()) {
         call.complain(say("the text is not in its character set"));
     }

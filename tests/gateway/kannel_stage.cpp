@@ -86,7 +86,7 @@ kannel_stage::~kannel_stage() {
 
 void kannel_stage::write(const QString& name, QString text, const QString& calls) const {
     const auto number = [](quint16 port) { return QString::number(port); };
-    const std::pair<QString, QString> changes[]{
+    const QList<std::pair<QString, QString>> changes{
         {u"/etc/kannel"_s, folder_.path()},
         {u"/var/spool/kannel"_s, folder_.filePath(u"spool"_s)},
         {u"/var/log/kannel"_s, folder_.path()},

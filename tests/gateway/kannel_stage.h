@@ -14,6 +14,8 @@
 /// that the stage plays: it refuses a number that ends in 1, has no time for one that ends in 9,
 /// and takes all others.
 class kannel_stage {
+    Q_DISABLE_COPY_MOVE(kannel_stage)
+
 public:
     /// Kannel brings what it receives to the address, which ends with a slash. With the name of a
     /// sample of a network, there is that network alone.

@@ -26,7 +26,7 @@ class test_kannel : public QObject {
 
 private:
     // The settings that fit the stage's Kannel; `smsc` is the centre to send through.
-    gateway::kannel_settings fitting(const QString& smsc) const {
+    [[nodiscard]] gateway::kannel_settings fitting(const QString& smsc) const {
         gateway::kannel_settings wanted;
         wanted.sendsms.setPort(stage_->sendsms_port);
         wanted.status.setPort(stage_->admin_port);
@@ -54,7 +54,7 @@ private:
         return sink_->settled.size() > known ? sink_->settled.last().second : gateway::handover{};
     }
 
-    QString fault_of(const gateway::kannel_settings& wanted) const {
+    [[nodiscard]] QString fault_of(const gateway::kannel_settings& wanted) const {
         gateway::kannel_backend engine(wanted, secret, nullptr);
         std::optional<QString> told;
         engine.check([&told](const QString& fault) { told = fault; });
@@ -62,7 +62,7 @@ private:
         return told.value_or(u"nothing was told"_s);
     }
 
-    QString calls() const {
+    [[nodiscard]] QString calls() const {
         return u"http://127.0.0.1:%1/kannel/%2/"_s.arg(server_.place().port).arg(secret);
     }
 

@@ -8,7 +8,6 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-using gateway::fate;
 using gateway::handover_result;
 
 class test_kannel_rules : public QObject {
