@@ -44,11 +44,7 @@ int check_settings(const settings& wanted) {
     const bool store_is_fine = tell(say("store in %1").arg(wanted.gateway.state_dir),
                                     store_fault(wanted.gateway.state_dir));
     system_clock time;
-    const auto engine = make_engine(wanted, time, nullptr);
-    if (!engine) {
-        tell(say("engine"), say("this program was built without it"));
-        return EXIT_FAILURE;
-    }
+    const auto engine = make_engine(wanted, time);
     engine->check([store_is_fine](const QString& fault) {
         const bool engine_is_fine = tell(say("engine"), fault);
         QCoreApplication::exit(engine_is_fine && store_is_fine ? EXIT_SUCCESS : EXIT_FAILURE);

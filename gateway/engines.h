@@ -5,6 +5,7 @@
 
 #include "gateway/backend.h"
 #include "gateway/clock.h"
+#include "gateway/http_server.h"
 #include "gateway/settings.h"
 #include "gateway/store.h"
 
@@ -12,9 +13,10 @@
 
 namespace gateway {
 
-/// The engine that the settings name; nothing for one that this program was built without. Without
-/// a store it can be checked, not started.
+/// The engine that the settings name. `file` and `calls`, where its network calls back, outlive it;
+/// without them it can be checked, not started.
 [[nodiscard]] std::unique_ptr<backend> make_engine(const settings& wanted, clock& time,
-                                                   store* file);
+                                                   store* file = nullptr,
+                                                   http_server* calls = nullptr);
 
 } // namespace gateway

@@ -78,9 +78,14 @@ int serve(const gateway::options& wanted) {
     const gateway::settings& values = wanted.values;
     gateway::system_clock time;
     gateway::store store(values.gateway.state_dir, gateway::store::user::daemon);
-    const auto network = gateway::make_engine(values, time, &store);
-    if (!network) {
-        return fail(gateway::say("this program was built without that engine"));
+    gateway::http_server calls;
+    const auto network = gateway::make_engine(values, time, &store, &calls);
+    if (values.http.on && values.gateway.engine == gateway::engine_name::kannel) {
+        const QString fault = calls.listen(values.http.listen);
+        if (!fault.isEmpty()) {
+            return fail(gateway::say("cannot listen on %1: %2")
+                            .arg(endpoint_text(values.http.listen), fault));
+        }
     }
     std::unique_ptr<gateway::control_channel> fifo;
     if (!wanted.control_path.isEmpty()) {

@@ -23,18 +23,6 @@ packages_missing() {
     done
 }
 
-# silence_engines NAME...: those of them that came as services of this machine serve no more.
-silence_engines() {
-    local name
-    [ -d /run/systemd/system ] || return 0
-    for name in "$@"; do
-        if [[ " ${engine_packages[*]} " == *" $name "* ]] &&
-            systemctl cat "$name.service" >/dev/null 2>&1; then
-            "${as_root[@]}" systemctl disable --now --quiet "$name.service"
-        fi
-    done
-}
-
 # install_packages NAME...: with sudo when not root; says what to do when it cannot.
 install_packages() {
     local missing as_root=()
