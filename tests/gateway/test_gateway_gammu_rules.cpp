@@ -146,8 +146,8 @@ private slots:
             u"a"_s, {0x102, 3, 5});
         row("long reference", unicode, u"06080412340302"_s, u"0061"_s, u"a"_s, {0x1234, 2, 3});
         row("empty part", unicode, u"050003070202"_s, {}, u""_s, {7, 2, 2});
-        row("part 3 of 2", unicode, u"050003070203"_s, u"0061"_s, u"a"_s);
-        row("part 0", unicode, u"050003070200"_s, u"0061"_s, u"a"_s);
+        row("piece 3 of 2", unicode, u"050003070203"_s, u"0061"_s, u"a"_s);
+        row("piece 0", unicode, u"050003070200"_s, u"0061"_s, u"a"_s);
         row("header cut", unicode, u"05000307"_s, u"0061"_s, u"a"_s);
         row("header of ones", unicode, u"FFFFFFFFFFFF"_s, u"0061"_s, u"a"_s);
         row("no digits", unicode, u"zz"_s, u"00zz"_s, u"decoded"_s);

@@ -88,8 +88,7 @@ private slots:
         row("[http]\non = yes\non = no", u":3: http/on stands already in line 2"_s);
         row("[http]\nlisten", u":2: expected \"[section]\""_s);
         row("[gammu]\npassword = a;b", u":2: gammu/password: a value with"_s);
-        row("[http]\nsecret = a%b/c-of-sixteen",
-            u":2: http/secret: expected 16 to 200 letters"_s);
+        row("[http]\nsecret = a%b/c-of-sixteen", u":2: http/secret: expected 16 to 200 letters"_s);
         row("[gateway]\nengine = gammu", u": gammu/database is missing"_s);
     }
 
