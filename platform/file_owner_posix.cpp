@@ -19,6 +19,6 @@ void give_owner_of(const QString& model, const QString& file) {
     }
     const bool is_same = wanted.st_uid == present.st_uid && wanted.st_gid == present.st_gid;
     if (!is_same && ::lchown(path.constData(), wanted.st_uid, wanted.st_gid) != 0) {
-        static_cast<void>(::lchown(path.constData(), as_it_is, wanted.st_gid));
+        [[maybe_unused]] const int given = ::lchown(path.constData(), as_it_is, wanted.st_gid);
     }
 }

@@ -21,7 +21,7 @@ volatile std::sig_atomic_t writing_end = -1;
 
 void tell_event_loop(int /*wish*/) {
     const int error = errno;
-    static_cast<void>(::write(writing_end, "", 1));
+    [[maybe_unused]] const ssize_t told = ::write(writing_end, "", 1); // a full pipe has told it
     errno = error;
 }
 
