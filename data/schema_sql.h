@@ -5,8 +5,8 @@
 
 // Booleans hold -1 and 0 (`recvedsms.readed` 1 and 0), moments are texts "yyyy/mm/dd hh:mm:ss".
 // Texts compare without regard to case. Keys are never given out twice: what still points at a
-// deleted row must not come to mean a new one. Nothing points at messages, group sends, memberships,
-// rights and lines of the log; their owner may close up those with smsdb.
+// deleted row must not come to mean a new one. Nothing points at messages, group sends,
+// memberships, rights and lines of the log; their owner may close up those with smsdb.
 inline constexpr const char* schema_sql = R"sql(
 CREATE TABLE smsmodels (
     mid INTEGER PRIMARY KEY AUTOINCREMENT,
