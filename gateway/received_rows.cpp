@@ -59,7 +59,7 @@ bool received_rows::give_up_parts(qint64 taken_before) {
 bool received_rows::join(const QVariantList& group, int least) {
     struct part {
         QString key;
-        qint64 at;
+        qint64 at = 0;
         QString text;
     };
     // References come again: of two parts with one number the newer belongs to what came last.
