@@ -97,7 +97,7 @@ QString set_digits(const QString& value, QString& target, qsizetype most) {
 QString set_secret(const QString& value, QString& target) {
     static const QRegularExpression letters(u"\\A[A-Za-z0-9_-]{16,200}\\z"_s);
     if (!value.isEmpty() && !letters.match(value).hasMatch()) {
-        return say("16 to 200 letters of English, digits, \"_\" and \"-\"");
+        return say(R"(16 to 200 letters of English, digits, "_" and "-")");
     }
     target = value;
     return {};

@@ -154,7 +154,7 @@ QString simulator_backend::command(const QString& line) {
     const QString number = line.section(u' ', 1, 1);
     const QString text = line.section(u' ', 2);
     if (word != u"recv" || text.isEmpty()) {
-        return say("expected \"recv NUMBER TEXT\", \"up\" or \"down\"");
+        return say(R"(expected "recv NUMBER TEXT", "up" or "down")");
     }
     if (!is_number(number)) {
         return say("\"%1\" is not a number").arg(number);

@@ -91,7 +91,7 @@ void tell_service_manager(const char* state) {
     if (path == nullptr || std::strlen(path) < 2 || std::strlen(path) >= sizeof address.sun_path) {
         return;
     }
-    std::strcpy(address.sun_path, path);
+    std::memcpy(address.sun_path, path, std::strlen(path) + 1);
     if (*path == '@') { // a name that is in no folder
         address.sun_path[0] = '\0';
     }
