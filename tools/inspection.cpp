@@ -236,7 +236,7 @@ inspection inspector::inspect() {
 
 inspection inspect(SqliteDatabase& database) {
     database.execute_script("BEGIN"); // one moment for all
-    const inspection found = inspector(database).inspect();
+    inspection found = inspector(database).inspect();
     database.execute_script("COMMIT");
     return found;
 }

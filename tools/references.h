@@ -20,7 +20,7 @@ struct reference {
     QStringView column;
     QStringView target;
     QStringView target_key;
-    Dangling dangling;
+    Dangling dangling = Dangling::fault;
     QStringView unless; ///< the rows of which nothing is asked
 };
 

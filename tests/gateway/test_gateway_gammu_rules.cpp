@@ -42,8 +42,9 @@ private slots:
         row("emoji 35", u"😀"_s.repeated(35), true, {70});
         row("emoji on the border", QString(66, u'好') + u"😀"_s.repeated(3), true, {66, 6});
         row("lone half", QString(71, QChar(0xd83d)), true, {67, 4});
-        row("255 parts", QString(255 * 67, u'好'), true, QList<int>(255, 67));
-        row("256 parts", QString(255 * 67 + 1, u'好'), true, {});
+        constexpr qsizetype longest = qsizetype{255} * 67;
+        row("255 parts", QString(longest, u'好'), true, QList<int>(255, 67));
+        row("256 parts", QString(longest + 1, u'好'), true, {});
     }
 
     void splits() {
