@@ -1,130 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "gateway/relay.h"
-#include "hand_backend.h"
-#include "hand_clock.h"
 #include "platform/data_error.h"
-#include "test_client.h"
-
-#include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <map>
+#include "relay_stage.h"
 
 #include <sys/socket.h>
 
-using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
-using gateway::fate;
-using gateway::handover_result;
-
-/// The relay with real sockets and a real store; its time and its network are played by hand.
-class test_gateway_relay : public QObject {
+/// What becomes of the clients' messages, and what the relay guards itself against.
+class test_gateway_relay : public relay_stage {
     Q_OBJECT
 
-    // A killed gateway is one that is not ended: the relay goes, the store stays as it is.
-    void start() {
-        relay_.reset();
-        store_.reset();
-        network_ = std::make_unique<hand_backend>();
-        store_ = std::make_unique<gateway::store>(folder_->path(), gateway::store::user::daemon);
-        relay_ = std::make_unique<gateway::relay>(*store_, *network_, clock_, settings_);
-        QCOMPARE(relay_->clients().listen({QHostAddress(QHostAddress::LocalHost), 0}), QString());
-        relay_->start();
-        clock_.advance(0ms);
-    }
-
-    // The rows that a statement gives: the columns of each with colons between, blanks between
-    // rows.
-    QString rows(const QString& sql) {
-        QStringList found;
-        bound_statement statement(store_->database(), sql);
-        while (statement.next()) {
-            found.append(statement.text(0));
-        }
-        return found.join(u' ');
-    }
-
-    test_client& client(const QString& name) {
-        auto& found = clients_[name];
-        if (!found) {
-            found = std::make_unique<test_client>(relay_->clients().port());
-            [&] { QTRY_COMPARE(found->state(), QAbstractSocket::ConnectedState); }();
-        }
-        return *found;
-    }
-
-    int answer_count(const QString& name) {
-        return static_cast<int>(client(name).answers().count(QRegularExpression(u"[12]"_s)));
-    }
-
-    // What a play is made of, one word each.
-    void act(const QString& word) {
-        const QString name = word.left(1);
-        const QString rest = word.mid(2);
-        if (word == u"restart") {
-            clients_.clear();
-            start();
-        } else if (word.startsWith(u'+')) { // time passes
-            clock_.advance(std::chrono::seconds(word.sliced(1).toInt()));
-        } else if (word == u"still") { // the process stands still
-            clock_.stand_still(6s);
-        } else if (word == u"sleep") { // the machine sleeps
-            clock_.sleep(6s);
-        } else if (word.at(1) == u'>') { // a client sends a message and gets its answer
-            const int before = answer_count(name);
-            client(name).send(u"1113912345678"_s + rest);
-            QTRY_COMPARE(answer_count(name), before + 1);
-        } else if (word.at(1) == u'-') { // a client goes, before it reads what is coming
-            client(name).abort();
-            clients_.erase(name);
-            QTRY_VERIFY(relay_->clients().findChildren<gateway::client_link*>().isEmpty());
-        } else {
-            say_of_network(word);
-        }
-    }
-
-    void say_of_network(const QString& word) {
-        static const std::map<QString, handover_result> results{
-            {u"accept"_s, handover_result::accepted},
-            {u"refuse"_s, handover_result::refused},
-            {u"notnow"_s, handover_result::not_now},
-            {u"unknown"_s, handover_result::unknown}};
-        static const std::map<QString, fate> fates{{u"delivered"_s, fate::delivered},
-                                                   {u"undelivered"_s, fate::undelivered}};
-        clock_.advance(100ms); // what is due is handed over
-        if (fates.contains(word)) {
-            QVERIFY(network_->sink->take(gateway::report{.id = 1, .what = fates.at(word)}));
-        } else if (word == u"up" || word == u"down") {
-            network_->up = word == u"up";
-            network_->sink->health_changed();
-        } else {
-            const bool asked = !network_->asked.isEmpty();
-            QVERIFY(asked || !network_->handed.isEmpty());
-            const auto id = asked ? network_->asked.takeFirst() : network_->handed.takeFirst().id;
-            network_->sink->settle(id, {.result = results.at(word)});
-        }
-        clock_.advance(100ms);
-    }
-
-    std::unique_ptr<QTemporaryDir> folder_;
-    hand_clock clock_;
-    gateway::settings settings_;
-    std::unique_ptr<hand_backend> network_;
-    std::unique_ptr<gateway::store> store_;
-    std::unique_ptr<gateway::relay> relay_;
-    std::map<QString, std::unique_ptr<test_client>> clients_;
-
 private slots:
-    void init() {
-        relay_.reset();
-        clients_.clear();
-        settings_ = {};
-        folder_ = std::make_unique<QTemporaryDir>();
-        start();
-    }
+    void init() { begin(); }
 
     void plays_data() {
         QTest::addColumn<QString>("play");
@@ -283,83 +170,6 @@ private slots:
         QTRY_COMPARE(client(u"a"_s).answers(), u"12"_s);
         act(u"a>one"_s);
         QCOMPARE(rows(u"SELECT text FROM message"_s), u"x one"_s);
-    }
-
-    void tells_failures_data() {
-        QTest::addColumn<QString>("play");
-        QTest::addColumn<QString>("notice");
-        QTest::newRow("refused") << u"a>x refuse"_s << u"网络拒绝发送"_s;
-        QTest::newRow("undelivered, told twice")
-            << u"a>x accept undelivered undelivered"_s << u"网络未能送到"_s;
-    }
-
-    void tells_failures() {
-        QFETCH(QString, play);
-        QFETCH(QString, notice);
-        for (const QString& word : play.split(u' ')) {
-            act(word);
-        }
-        clock_.advance(2s);
-        const QRegularExpression told(u"^10130013912345678"_s +
-                                      u"12\\d{12}【未送达】%1：x$"_s.arg(notice));
-        QTRY_VERIFY2(told.match(client(u"a"_s).answers()).hasMatch(),
-                     qPrintable(client(u"a"_s).answers()));
-    }
-
-    void brings_received_messages() {
-        const auto bring = [this](const QString& key, const QString& text) {
-            return network_->sink->take(gateway::incoming_message{
-                key, u"+8613912345678"_s, QDateTime(QDate(2024, 2, 3), QTime(4, 5, 6)), text});
-        };
-        const auto frame = [](const QString& text) {
-            return u"013861391234567812240203040506"_s + text;
-        };
-        for (int i = 1; i <= 7; ++i) {
-            QVERIFY(bring(QString::number(i), u"it's "_s + QString::number(i)));
-        }
-        QVERIFY(bring(u"1"_s, u"again"_s)); // the network was not sure
-        const QString unconfirmed = u"SELECT text FROM received WHERE confirmed_at IS NULL"_s;
-        QString brought;
-        for (int i = 1; i <= 4; ++i) {
-            brought += frame(u"it’s "_s + QString::number(i));
-            QTRY_COMPARE(client(u"a"_s).answers(), brought);
-            clock_.advance(1s);
-        }
-        QCOMPARE(rows(unconfirmed).count(u"it's"), 7); // the link lives for 4 s only
-        act(u"a-"_s);
-        QTRY_VERIFY(client(u"b"_s).answers().startsWith(frame(u"it’s 1"_s)));
-        QTRY_COMPARE((clock_.advance(1s), rows(unconfirmed)), QString());
-        QVERIFY(client(u"b"_s).answers().endsWith(frame(u"it’s 7"_s)));
-        act(u"b-"_s);
-        act(u"c>x"_s);
-        clock_.advance(10s);
-        QCOMPARE(client(u"c"_s).answers(), u"1"_s); // nothing is left for it
-    }
-
-    void joins_parts() {
-        const auto part = [this](const QString& key, int number, int count, const QString& text) {
-            return network_->sink->take(gateway::incoming_part{
-                {key, u"10086"_s, QDateTime::currentDateTime(), text}, 7, number, count});
-        };
-        const QString texts = u"SELECT text FROM received ORDER BY id"_s;
-        QVERIFY(part(u"a"_s, 2, 2, u"world"_s) && part(u"a"_s, 2, 2, u"world"_s));
-        QCOMPARE(rows(texts), QString());
-        QVERIFY(part(u"b"_s, 1, 2, u"hello"_s) && part(u"b"_s, 1, 2, u"hello"_s));
-        QCOMPARE(rows(texts), u"helloworld"_s);
-        QVERIFY(part(u"c"_s, 1, 3, u"lonely"_s));
-        clock_.advance(48h);
-        QCOMPARE(rows(texts), u"helloworld lonely……"_s);
-    }
-
-    void cleans_what_is_old() {
-        settings_.gateway.keep_days = 2;
-        start();
-        for (const char* word : {"a>old", "accept", "delivered", "a>waiting", "+5"}) {
-            act(QString::fromLatin1(word));
-        }
-        clock_.advance(49h);
-        QCOMPARE(rows(u"SELECT text FROM message"_s), u"waiting"_s);
-        QCOMPARE(rows(u"SELECT message FROM event"_s), QString());
     }
 
     void bounds_links() {
