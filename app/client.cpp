@@ -11,7 +11,7 @@
 #include "data/schema.h"
 #include "data/strconn.h"
 #include "operators/rsclsuser.h"
-#include "platform/connection_string.h"
+#include "platform/database/connection_string.h"
 #include "platform/guarded.h"
 #include "platform/settings_store.h"
 #include "platform/termination_watch.h"

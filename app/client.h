@@ -20,7 +20,7 @@
 #include "messaging/vc_recvedsms.h"
 #include "messaging/vc_sendsms.h"
 #include "operators/vc_users.h"
-#include "platform/exclusive_lease.h"
+#include "platform/database/exclusive_lease.h"
 
 #include <QMdiArea>
 

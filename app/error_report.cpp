@@ -4,7 +4,7 @@
 #include "app/error_report.h"
 
 #include "data/strconn.h"
-#include "platform/connection_string.h"
+#include "platform/database/connection_string.h"
 #include "platform/data_error.h"
 #include "platform/widgets/msgbox.h"
 
@@ -25,6 +25,8 @@ QString describe_data_error(const DataError& error) {
     case DataError::Kind::old_format:
         return u"数据库文件是旧的格式，请先用导入工具“smsdb import”把它转换成新的数据库，原文件没有改动：\n%1"_s
             .arg(file);
+    case DataError::Kind::newer_version:
+        return u"数据库是由更新版本的程序建立或者升级的，请先升级本程序：\n%1"_s.arg(file);
     case DataError::Kind::locked:
         return u"数据库正被其他程序占用，请稍后再试：\n%1"_s.arg(file);
     case DataError::Kind::disk:

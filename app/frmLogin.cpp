@@ -4,9 +4,7 @@
 #include "app/frmLogin.h"
 
 #include "app/error_report.h"
-#include "data/literals.h"
-#include "data/nvltrim.h"
-#include "data/strconn.h"
+#include "data/c_users.h"
 #include "listview/dialog_buttons.h"
 #include "listview/labelled_box.h"
 #include "operators/rsclsuser.h"
@@ -20,19 +18,6 @@
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QString login_query(const QString& name, const QString& password) {
-    if (nvltrim(password).isEmpty()) {
-        return u"select * from users where username= %1and ( password='' or password is null)"_s
-            .arg(text_literal(name));
-    }
-    return u"select * from users where username= %1and  password=%2"_s.arg(text_literal(name),
-                                                                           text_literal(password));
-}
-
-} // namespace
 
 frmLogin::frmLogin(QWidget* parent) : QDialog(parent) {
     setWindowTitle(u"系统登录"_s);
@@ -67,9 +52,7 @@ void frmLogin::cmdOK_Click() {
 
 void frmLogin::log_in() {
     Recordset rs;
-    rs.set_ActiveConnection(strconn);
-    rs.Open(login_query(txtUserName->text(), txtPassword->text()));
-    rs.detach();
+    c_users().open_login(rs, txtUserName->text(), txtPassword->text());
     if (rs.Bof() && rs.Eof()) {
         msgbox::plain(u"用户名称或者口令输入错误，请重新输入！"_s, u"登录错误"_s);
         txtPassword->setFocus();

@@ -6,6 +6,7 @@
 #include "app/application_title.h"
 #include "listview/dialog_buttons.h"
 #include "listview/labelled_box.h"
+#include "platform/database/connection_string.h"
 #include "platform/server_probe.h"
 #include "platform/settings_store.h"
 #include "platform/widgets/msgbox.h"
@@ -39,7 +40,7 @@ void frmserver::cmdOK_Click() {
         Text1->text();
     try {
         const wait_cursor waiting;
-        probe_server(serverconn);
+        probe_server(data_source(serverconn));
     } catch (const std::exception&) {
         msgbox::information(u"服务器连接不成功，请查看服务器名是否输入错误！"_s, u"系统提示"_s);
         return;

@@ -7,7 +7,7 @@
 
 #include "data/schema.h"
 #include "data/strconn.h"
-#include "platform/connection_pool.h"
+#include "platform/database/connection_pool.h"
 
 bench_store::bench_store() {
     use();

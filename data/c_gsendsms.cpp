@@ -5,8 +5,8 @@
 
 #include "data/nvltrim.h"
 #include "data/strconn.h"
-#include "platform/connection.h"
 #include "platform/conversion.h"
+#include "platform/database/connection.h"
 
 using namespace Qt::StringLiterals;
 
@@ -52,7 +52,7 @@ bool c_gsendsms::addrec(const QString& sms, qint16 cid, bool imsend, qint16 isal
         cn.Open();
         // One commit makes thousands of inserts durable at the cost of one; it comes after an error
         // too.
-        cn.BeginTrans();
+        transaction writing(cn.database());
         try {
             expand(cn,
                    {.cid = cid,
@@ -64,10 +64,10 @@ bool c_gsendsms::addrec(const QString& sms, qint16 cid, bool imsend, qint16 isal
                     .sms = sms},
                    report);
         } catch (const std::exception&) {
-            cn.CommitTrans();
+            writing.commit();
             throw;
         }
-        cn.CommitTrans();
+        writing.commit();
         return true;
     } catch (const std::exception&) {
         return false;

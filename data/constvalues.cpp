@@ -5,7 +5,7 @@
 
 #include "data/literals.h"
 #include "platform/data_error.h"
-#include "platform/recordset.h"
+#include "platform/database/recordset.h"
 
 #include <algorithm>
 

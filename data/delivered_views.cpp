@@ -4,7 +4,7 @@
 #include "data/delivered_views.h"
 
 #include "data/literals.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/physical_database.h"
 
 #include <QStringView>
 
@@ -120,7 +120,7 @@ QString format_of(shape holds) {
     return holds == shape::flag ? u"5"_s : holds == shape::moment ? u"1"_s : u"0"_s;
 }
 
-void write_column(SqliteDatabase& database, const column_row& column, int position) {
+void write_column(physical_database& database, const column_row& column, int position) {
     const QString format = column.holds == shape::moment ? u"yyyy-mm-dd hh:mm:ss"_s : QString();
     database.execute(
         u"INSERT INTO viewitems (ViewNo, pos, keyword, caption, Width, FormatStr, ReadOnly, DataType, DataWidth, RefType, PointNum, Other1, Other2, HAlignment, TAlignment, CanSet, ColMerge, Visible, DispTrue, DispFalse, DispNull, CanFilter, condValue1, CondValue2, FormatType) values (%1,%2,%3,%4,%5,%6,-1,%7,0,0,0,'','',%8,%9,-1,0,-1,%10,%11,'',-1,'','',%12)"_s
@@ -133,19 +133,29 @@ void write_column(SqliteDatabase& database, const column_row& column, int positi
                  format_of(column.holds)));
 }
 
+void write_columns(physical_database& database, const view_row& view) {
+    int position = 0;
+    for (const column_row& column : columns) {
+        if (column.view_no == view.view_no) {
+            write_column(database, column, ++position);
+        }
+    }
+}
+
 } // namespace
 
-void write_delivered_views(SqliteDatabase& database) {
+void bring_in_delivered_views(physical_database& database) {
+    const QString defined = u"SELECT count(*) FROM viewdef WHERE ViewNo=%1"_s;
+    const QString columns_of = u"SELECT count(*) FROM viewitems WHERE ViewNo=%1"_s;
     for (const view_row& view : views) {
-        database.execute(
-            u"INSERT INTO viewdef (ViewNo, viewName, other, readonly, isTwoS) values (%1,%2,%3,-1,0)"_s
-                .arg(literal(view.view_no.toString()), literal(view.name.toString()),
-                     literal(view.mode.toString())));
-        int position = 0;
-        for (const column_row& column : columns) {
-            if (column.view_no == view.view_no) {
-                write_column(database, column, ++position);
-            }
+        const QString view_no = literal(view.view_no.toString());
+        if (database.number(defined.arg(view_no)) == 0) {
+            database.execute(
+                u"INSERT INTO viewdef (ViewNo, viewName, other, readonly, isTwoS) values (%1,%2,%3,-1,0)"_s
+                    .arg(view_no, literal(view.name.toString()), literal(view.mode.toString())));
+        }
+        if (database.number(columns_of.arg(view_no)) == 0) {
+            write_columns(database, view);
         }
     }
 }

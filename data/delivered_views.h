@@ -3,7 +3,8 @@
 
 #pragma once
 
-class SqliteDatabase;
+class physical_database;
 
-/// Writes the delivered definition of every view into `viewdef` and `viewitems`.
-void write_delivered_views(SqliteDatabase& database);
+/// Writes the delivered definitions into `viewdef` and `viewitems` of those views that have none:
+/// what an office has made of a list stays.
+void bring_in_delivered_views(physical_database& database);

@@ -26,6 +26,9 @@
 [[nodiscard]] inline QString literal(qint16 number) {
     return int16_literal(number);
 }
+[[nodiscard]] inline QString literal(qint32 number) {
+    return QString::number(number);
+}
 /// True is -1, false is 0.
 [[nodiscard]] QString literal(bool value);
 /// A moment as quoted text.

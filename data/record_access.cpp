@@ -3,7 +3,7 @@
 
 #include "data/record_access.h"
 
-#include "platform/command.h"
+#include "platform/database/command.h"
 
 void record_access::execute_statement(const QString& connection_string, const QString& statement) {
     Command{.ActiveConnection = connection_string, .CommandText = statement}.Execute();

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "data/literals.h"
-#include "platform/recordset.h"
+#include "platform/database/recordset.h"
 
 #include <QString>
 
@@ -30,11 +30,18 @@ protected:
     [[nodiscard]] static bool execute(const QString& connection_string, const QString& statement,
                                       const Values&... values) {
         try {
-            execute_statement(connection_string, statement.arg(literal(values)...));
+            run(connection_string, statement, values...);
             return true;
         } catch (const std::exception&) {
             return false;
         }
+    }
+
+    /// The same, and throws the error.
+    template <class... Values>
+    static void run(const QString& connection_string, const QString& statement,
+                    const Values&... values) {
+        execute_statement(connection_string, statement.arg(literal(values)...));
     }
 
     /// Opens the caller's record set on a detached snapshot. Throws DataError.

@@ -3,54 +3,130 @@
 
 #include "data/schema.h"
 
-#include "data/delivered_views.h"
-#include "data/schema_sql.h"
-#include "platform/connection_string.h"
+#include "data/schema_steps.h"
 #include "platform/data_error.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/connection_string.h"
+#include "platform/database/transaction.h"
+#include "platform/durable_move.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-bool holds_a_table(SqliteDatabase& database) {
-    return database.step(database.prepare(u"select 1 from sqlite_master"_s));
+using open_mode = physical_database::open_mode;
+using purpose = physical_database::purpose;
+
+bool holds_a_table(physical_database& database) {
+    return !database.table_names().isEmpty();
 }
+
+/// What a start finds in the file.
+enum class content { nothing, older, fitting };
 
 /// A file that a killed first start left has no table; one that cannot be read is somebody else's
 /// to report, when it is used.
-bool needs_tables(const QString& path) {
+content content_of(const QString& path) {
     if (!QFileInfo::exists(path)) {
-        return true;
+        return content::nothing;
     }
+    int version = 0;
     try {
         // Not waited for: whoever is at work in the file has made its tables.
-        SqliteDatabase database(path, SqliteDatabase::Mode::existing, 0);
-        return !holds_a_table(database);
+        const auto database = open_database(path, open_mode::existing, 0);
+        if (!holds_a_table(*database)) {
+            return content::nothing;
+        }
+        version = schema_version_of(*database);
     } catch (const DataError&) {
-        return false;
+        return content::fitting;
+    }
+    return version == newest_schema_version() ? content::fitting : content::older;
+}
+
+QString copy_name(const QString& path, const QString& step) {
+    return path + u"-before-step-"_s + step;
+}
+
+/// Copies the database beside itself, whole and on disk, and takes older copies away.
+void keep_copy(physical_database& database, const QString& path, int step) {
+    const QString place = copy_name(path, QString::number(step));
+    const QString part = place + u".part"_s;
+    QFile::remove(part);
+    {
+        const auto copy = open_database(part, open_mode::create);
+        database.copy_to(*copy);
+    }
+    const std::error_code error =
+        move_durably(QFileInfo(part).filesystemFilePath(), QFileInfo(place).filesystemFilePath(),
+                     existing::replace);
+    if (error) {
+        throw DataError(DataError::Kind::disk, qt_error_string(error.value()));
+    }
+    const QFileInfo file(place);
+    QDir folder = file.dir();
+    const QString all = QFileInfo(copy_name(path, u"*"_s)).fileName();
+    for (const QString& name : folder.entryList({all}, QDir::Files)) {
+        if (name != file.fileName()) {
+            folder.remove(name);
+        }
     }
 }
 
 } // namespace
 
-void make_database(const QString& path) {
-    SqliteDatabase database(path, SqliteDatabase::Mode::create);
-    database.execute_script("BEGIN EXCLUSIVE");
-    // Two first starts at once: the second finds the tables when its turn comes.
-    if (!holds_a_table(database)) {
-        database.execute_script(schema_sql);
-        write_delivered_views(database);
+void fill_database(physical_database& database) {
+    for (int step = 1; step <= newest_schema_version(); ++step) {
+        run_schema_step(database, step);
     }
-    database.execute_script("COMMIT");
-    database.execute_script("PRAGMA journal_mode=WAL");
+}
+
+void make_database(const QString& path) {
+    const auto database = open_database(path, open_mode::create);
+    transaction making(*database, purpose::alone);
+    // Two first starts at once: the second finds the tables when its turn comes.
+    if (!holds_a_table(*database)) {
+        fill_database(*database);
+    }
+    making.commit();
+}
+
+int schema_version_of(physical_database& database) {
+    return qMax(database.schema_version(), 1);
+}
+
+int upgrade_database(const QString& path) {
+    const auto database = open_database(path);
+    const int found = schema_version_of(*database);
+    if (found > newest_schema_version()) {
+        throw DataError(DataError::Kind::newer_version, path);
+    }
+    if (found < newest_schema_version()) {
+        keep_copy(*database, QFileInfo(path).canonicalFilePath(), found + 1);
+    }
+    for (int step = found + 1; step <= newest_schema_version(); ++step) {
+        transaction stepping(*database);
+        if (schema_version_of(*database) < step) { // another start may have been quicker
+            run_schema_step(*database, step);
+        }
+        stepping.commit();
+    }
+    return found;
 }
 
 void ensure_database(const QString& connection_string) {
     const QString path = data_source(connection_string);
-    if (needs_tables(path)) {
+    switch (content_of(path)) {
+    case content::nothing:
         make_database(path);
+        break;
+    case content::older:
+        upgrade_database(path);
+        break;
+    case content::fitting:
+        break;
     }
 }

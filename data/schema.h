@@ -5,15 +5,27 @@
 
 #include <QString>
 
-/// The number of the schema that is made here, which a file holds as its `user_version`. A higher
-/// one is that of a newer program.
-inline constexpr int schema_version = 0;
+class physical_database;
 
 /// Makes the database of a fresh office at `path`: schema, first operator and all delivered rows in
 /// one transaction, so that being killed half-way leaves nothing behind. A file that holds a table
 /// is left as it is. Throws DataError when the database cannot be made.
 void make_database(const QString& path);
 
+/// Makes everything of a fresh office in an empty database. Throws DataError.
+void fill_database(physical_database& database);
+
+/// The version of the schema that a database of this system has; those made before there were
+/// versions count as 1. Throws DataError.
+[[nodiscard]] int schema_version_of(physical_database& database);
+
+/// Runs the steps of the schema that the database at `path` lacks, each in a transaction of its
+/// own, when a copy lies beside it as "PATH-before-step-N" (of several the newest is kept). Returns
+/// the version that it had. Throws DataError: newer_version when it is too new for this program,
+/// and when it cannot be read or written.
+int upgrade_database(const QString& path);
+
 /// Makes the database that `connection_string` names when its file is missing or holds no table
-/// yet. Any other file is left as it is, readable or not. Throws DataError as make_database does.
+/// yet, and upgrades an older one. A file that cannot be read is left for its first user to report.
+/// Throws DataError as make_database and upgrade_database do.
 void ensure_database(const QString& connection_string);

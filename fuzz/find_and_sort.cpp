@@ -4,7 +4,7 @@
 #include "fuzz/target.h"
 #include "platform/conversion.h"
 #include "platform/data_error.h"
-#include "platform/recordset.h"
+#include "platform/database/recordset.h"
 
 #include <QCollator>
 

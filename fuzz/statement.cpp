@@ -4,8 +4,8 @@
 #include "data/literals.h"
 #include "fuzz/target.h"
 #include "platform/data_error.h"
-#include "platform/jet_sql.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/jet_sql.h"
+#include "platform/database/sqlite_database.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -25,11 +25,10 @@ int allow(void* /*data*/, int action, const char* /*first*/, const char* /*secon
     return action == SQLITE_PRAGMA ? SQLITE_DENY : SQLITE_OK;
 }
 
-SqliteDatabase& database() {
+sqlite_database& database() {
     static const QTemporaryDir folder;
-    static SqliteDatabase opened(folder.filePath(u"fuzz"_s), SqliteDatabase::Mode::create);
-    static const int authorized = sqlite3_set_authorizer(
-        sqlite3_db_handle(opened.prepare(u"select 1"_s).get()), &allow, nullptr);
+    static sqlite_database opened(folder.filePath(u"fuzz"_s), physical_database::open_mode::create);
+    static const int authorized = sqlite3_set_authorizer(opened.handle(), &allow, nullptr);
     expect(authorized == SQLITE_OK, "the authorizer is set");
     return opened;
 }
@@ -52,23 +51,19 @@ void check_translation(const QString& statement) {
 }
 
 void check_single(const QString& statement) {
-    const auto prepared = database().prepare(statement);
-    const QByteArrayView read(sqlite3_sql(prepared.get()));
+    const sqlite_statement prepared(database().handle(), statement);
+    const QByteArrayView read(sqlite3_sql(prepared.handle()));
     const QByteArray rest = translate_jet_sql(statement).toUtf8().sliced(read.size());
     sqlite3_stmt* second = nullptr;
-    sqlite3_prepare_v2(sqlite3_db_handle(prepared.get()), rest.constData(), -1, &second, nullptr);
+    sqlite3_prepare_v2(database().handle(), rest.constData(), -1, &second, nullptr);
     expect(second == nullptr, "nothing is left behind the statement");
 }
 
 void check_value(const QString& text) {
-    const auto prepared =
-        database().prepare(u"select #2024/01/31#, %1, '#'"_s.arg(text_literal(text)));
-    expect(database().step(prepared), "the value is selected");
-    const QByteArray read(reinterpret_cast<const char*>(sqlite3_column_text(prepared.get(), 1)),
-                          sqlite3_column_bytes(prepared.get(), 1));
-    expect(read == text.toUtf8(), "the value comes back as it was");
-    expect(sqlite3_column_count(prepared.get()) == 3 && !database().step(prepared),
-           "the statement is what it was");
+    const RowStore rows =
+        database().rows(u"select #2024/01/31#, %1, '#'"_s.arg(text_literal(text)));
+    expect(rows.rows() == 1 && rows.columns().size() == 3, "the statement is what it was");
+    expect(rows.utf8(0, 1) == text.toUtf8(), "the value comes back as it was");
 }
 
 template <class Check>

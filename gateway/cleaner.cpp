@@ -40,16 +40,16 @@ bool cleaner::step() {
     bool changed = false;
     bool joined = false;
     try_store([&] {
-        const int before = store_.database().total_changes();
+        const qint64 before = store_.database().changed_rows();
         const qint64 now = clock_.now();
-        transaction all(store_);
+        transaction all(store_.database());
         joined = postman_.rows().give_up_parts(now - parts_wait.count());
         old_events_.run({now - keep_ms_}); // while their messages still tell which they are
         old_messages_.run({now - keep_ms_});
         old_received_.run({now - keep_ms_});
         old_parts_.run({now - keep_ms_});
         all.commit();
-        changed = store_.database().total_changes() != before;
+        changed = store_.database().changed_rows() != before;
     });
     if (joined) {
         postman_.look();

@@ -32,16 +32,16 @@ dispatch_rows::dispatch_rows(store& file)
                              "(?1, ?2, ?3, ?4, ?5)"_s) {}
 
 QList<message_row> dispatch_rows::read(bound_statement& rows, const QVariantList& values) {
+    const RowStore read = rows.rows(values);
     QList<message_row> found;
-    rows.start(values);
-    while (rows.next()) {
-        found.append({.id = rows.integer(0),
-                      .mobile = rows.text(1),
-                      .number = rows.text(2),
-                      .text = rows.text(3),
-                      .state = state_named(rows.text(4)).value_or(message_state::dropped),
-                      .since = rows.integer(5),
-                      .attempts = static_cast<int>(rows.integer(6))});
+    for (qsizetype row = 0; row < read.rows(); ++row) {
+        found.append({.id = read.integer(row, 0),
+                      .mobile = read.text(row, 1),
+                      .number = read.text(row, 2),
+                      .text = read.text(row, 3),
+                      .state = state_named(read.text(row, 4)).value_or(message_state::dropped),
+                      .since = read.integer(row, 5),
+                      .attempts = static_cast<int>(read.integer(row, 6))});
     }
     return found;
 }
@@ -56,10 +56,11 @@ QList<message_row> dispatch_rows::unknown_until(qint64 now, int most) {
 
 std::optional<qint64> dispatch_rows::next_moment() {
     std::optional<qint64> earliest;
-    next_.start({});
-    while (next_.next()) {
-        if (!next_.is_null(0)) {
-            earliest = std::min(earliest.value_or(next_.integer(0)), next_.integer(0));
+    const RowStore moments = next_.rows();
+    for (qsizetype row = 0; row < moments.rows(); ++row) {
+        if (moments.type(row, 0) != RowStore::Type::null) {
+            earliest =
+                std::min(earliest.value_or(moments.integer(row, 0)), moments.integer(row, 0));
         }
     }
     return earliest;
@@ -88,15 +89,15 @@ void dispatch_rows::put_off(message_id id, std::optional<qint64> next_at) {
 
 bool dispatch_rows::note(message_id id, const QString& fate, const QString& ref,
                          const QString& reason, qint64 now) {
-    const int before = store_.database().total_changes();
+    const qint64 before = store_.database().changed_rows();
     note_.run({id, now, fate, ref, reason});
-    return store_.database().total_changes() != before;
+    return store_.database().changed_rows() != before;
 }
 
 void dispatch_rows::doubt_handing(qint64 now) {
-    bound_statement(store_.database(), u"UPDATE message SET state = 'unknown', since = ?1, next_at "
-                                       "= ?1 WHERE state = 'handing'"_s)
-        .run({now});
+    store_.database().execute(
+        u"UPDATE message SET state = 'unknown', since = ?1, next_at = ?1 WHERE state = 'handing'"_s,
+        {now});
 }
 
 } // namespace gateway

@@ -104,7 +104,7 @@ void dispatcher::hand_over_due() {
         if (due.isEmpty()) {
             return;
         }
-        transaction all(store_);
+        transaction all(store_.database());
         for (const message_row& row : due) {
             rows_.begin(row.id, now);
         }
@@ -131,7 +131,7 @@ void dispatcher::ask_for_unknown() {
         if (doubtful.isEmpty()) {
             return;
         }
-        transaction all(store_);
+        transaction all(store_.database());
         for (const message_row& row : std::as_const(doubtful)) {
             rows_.put_off(row.id, now + asked_again_at_last.count());
         }
@@ -172,7 +172,7 @@ void dispatcher::keep_outcomes() {
         return;
     }
     const bool kept = try_store([this] {
-        transaction all(store_);
+        transaction all(store_.database());
         for (const auto& [id, outcome] : std::as_const(outcomes_)) {
             keep_outcome(id, outcome);
         }
@@ -225,7 +225,7 @@ message_change dispatcher::change_for(const message_row& row, const handover& ou
 
 bool dispatcher::take(const report& told) {
     const bool kept = try_store([&] {
-        transaction all(store_);
+        transaction all(store_.database());
         const qint64 now = clock_.now();
         const auto row = rows_.find(told.id);
         if (row && rows_.note(told.id, name_of(told.what), told.ref, told.reason, now)) {

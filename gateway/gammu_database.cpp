@@ -4,10 +4,8 @@
 #include "gateway/gammu_database.h"
 
 #include "gateway/message_text.h"
-#include "platform/bound_statement.h"
 #include "platform/data_error.h"
-#include "platform/sqlite_database.h"
-#include "platform/try_step.h"
+#include "platform/database/transaction.h"
 
 namespace gateway {
 
@@ -25,51 +23,34 @@ gammu_database::gammu_database(const gammu_settings& wanted) {
     }
     // The write-ahead log that this opens it with matters: gammu-smsd does not wait for a lock, and
     // with it our reading never stands in its way.
-    database_ = std::make_unique<SqliteDatabase>(wanted.database, SqliteDatabase::Mode::existing,
-                                                 lock_wait_ms);
+    database_ =
+        open_database(wanted.database, physical_database::open_mode::existing, lock_wait_ms);
 }
 
 gammu_database::~gammu_database() = default;
 
 QList<QStringList> gammu_database::rows(const QString& sql, const QVariantList& values) {
-    QList<QStringList> found;
-    bound_statement statement(*database_, sql);
-    statement.start(values);
-    while (statement.next()) {
-        QStringList columns;
-        for (int i = 0; i < statement.column_count(); ++i) {
-            columns.append(statement.is_null(i) ? QString() : statement.text(i));
-        }
-        found.append(columns);
-    }
-    return found;
+    return database_->texts(sql, values);
 }
 
 bool gammu_database::run(const QString& sql, const QVariantList& values) {
-    const int before = database_->total_changes();
-    bound_statement(*database_, sql).run(values);
-    return database_->total_changes() != before;
+    const qint64 before = database_->changed_rows();
+    database_->execute(sql, values);
+    return database_->changed_rows() != before;
 }
 
 qint64 gammu_database::last_key() const {
-    return database_->last_insert_rowid();
+    return database_->last_key();
 }
 
 void gammu_database::together(const std::function<void()>& work) {
-    database_->execute_script("BEGIN IMMEDIATE");
-    try {
-        work();
-        database_->execute_script("COMMIT");
-    } catch (...) {
-        if (database_->in_transaction()) {
-            try_step([this] { database_->execute_script("ROLLBACK"); });
-        }
-        throw;
-    }
+    transaction all(*database_);
+    work();
+    all.commit();
 }
 
 bool gammu_database::is_alive() const {
-    return !database_->moved();
+    return database_->alive();
 }
 
 } // namespace gateway

@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 
-class SqliteDatabase;
+class physical_database;
 
 namespace gateway {
 
@@ -35,7 +35,7 @@ public:
     [[nodiscard]] bool is_alive() const;
 
 private:
-    std::unique_ptr<SqliteDatabase> database_;
+    std::unique_ptr<physical_database> database_;
 };
 
 } // namespace gateway

@@ -34,7 +34,7 @@ taking intake::take(const QString& client, const QByteArray& frame, qint64 read_
     }
     taking result{verdict::failed};
     const bool kept = try_store([&] {
-        transaction all(store_);
+        transaction all(store_.database());
         settle_earlier(before);
         if (const auto message = read(client, frame)) {
             result = keep(*message);

@@ -28,17 +28,12 @@ intake_rows::intake_rows(store& file)
 message_id intake_rows::insert(const taken_message& message, qint64 now) {
     insert_.run(
         {message.client, message.mobile, message.number, message.text, message.digest, now});
-    return store_.database().last_insert_rowid();
+    return store_.database().last_key();
 }
 
 std::optional<message_id> intake_rows::find_open(const taken_message& message, qint64 after) {
-    find_open_.start({message.client, message.digest, after});
-    if (!find_open_.next()) {
-        return std::nullopt;
-    }
-    const message_id found = find_open_.integer(0);
-    find_open_.stop();
-    return found;
+    const RowStore found = find_open_.rows({message.client, message.digest, after});
+    return found.rows() == 0 ? std::nullopt : std::optional(found.integer(0, 0));
 }
 
 void intake_rows::absorb(message_id id) {
@@ -54,10 +49,7 @@ void intake_rows::close_open(const QString& client) {
 }
 
 bool intake_rows::has_open(const QString& client) {
-    has_open_.start({client});
-    const bool found = has_open_.next();
-    has_open_.stop();
-    return found;
+    return has_open_.rows({client}).rows() > 0;
 }
 
 void intake_rows::open_owed() {

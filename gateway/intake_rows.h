@@ -6,7 +6,7 @@
 #include "gateway/network.h"
 #include "gateway/relay_rules.h"
 #include "gateway/store.h"
-#include "platform/bound_statement.h"
+#include "platform/database/bound_statement.h"
 
 #include <optional>
 

@@ -81,7 +81,7 @@ bool postman::keep(const incoming_message& message) {
 
 bool postman::keep(const incoming_part& part) {
     const bool kept = try_store([&] {
-        transaction all(store_);
+        transaction all(store_.database());
         rows_.insert(part, clock_.now());
         all.commit();
     });

@@ -28,10 +28,10 @@ received_rows::received_rows(store& file)
       confirmed_(file.database(), u"UPDATE received SET confirmed_at = ?2 WHERE id = ?1"_s) {}
 
 bool received_rows::insert(const incoming_message& message, const QString& mobile) {
-    const int before = store_.database().total_changes();
+    const qint64 before = store_.database().changed_rows();
     insert_.run({message.key, message.sender, mobile.isEmpty() ? QVariant() : mobile,
                  message.time.toMSecsSinceEpoch(), message.text});
-    return store_.database().total_changes() != before;
+    return store_.database().changed_rows() != before;
 }
 
 bool received_rows::insert(const incoming_part& part, qint64 now) {
@@ -39,21 +39,16 @@ bool received_rows::insert(const incoming_part& part, qint64 now) {
     if (part.count < 2 || part.number < 1 || part.number > part.count) {
         return insert(piece);
     }
-    const int before = store_.database().total_changes();
+    const qint64 before = store_.database().changed_rows();
     insert_part_.run({piece.key, piece.sender, part.reference, part.number, part.count,
                       piece.time.toMSecsSinceEpoch(), piece.text, now});
-    return store_.database().total_changes() != before &&
+    return store_.database().changed_rows() != before &&
            join({piece.sender, part.reference, part.count}, part.count);
 }
 
 bool received_rows::give_up_parts(qint64 taken_before) {
-    old_parts_.start({taken_before});
-    if (!old_parts_.next()) {
-        return false;
-    }
-    const QVariantList group{old_parts_.text(0), old_parts_.integer(1), old_parts_.integer(2)};
-    old_parts_.stop();
-    return join(group, 1);
+    const RowStore old = old_parts_.rows({taken_before});
+    return old.rows() > 0 && join({old.text(0, 0), old.integer(0, 1), old.integer(0, 2)}, 1);
 }
 
 bool received_rows::join(const QVariantList& group, int least) {
@@ -64,10 +59,10 @@ bool received_rows::join(const QVariantList& group, int least) {
     };
     // References come again: of two parts with one number the newer belongs to what came last.
     QMap<int, part> parts;
-    parts_.start(group);
-    while (parts_.next()) {
-        parts.insert(static_cast<int>(parts_.integer(0)),
-                     {parts_.text(1), parts_.integer(2), parts_.text(3)});
+    const RowStore stored = parts_.rows(group);
+    for (qsizetype row = 0; row < stored.rows(); ++row) {
+        parts.insert(static_cast<int>(stored.integer(row, 0)),
+                     {stored.text(row, 1), stored.integer(row, 2), stored.text(row, 3)});
     }
     if (parts.size() < least) {
         return false;
@@ -85,14 +80,12 @@ bool received_rows::join(const QVariantList& group, int least) {
 }
 
 std::optional<waiting_message> received_rows::waiting_after(qint64 id) {
-    waiting_.start({id});
-    if (!waiting_.next()) {
+    const RowStore found = waiting_.rows({id});
+    if (found.rows() == 0) {
         return std::nullopt;
     }
-    waiting_message found{waiting_.integer(0), waiting_.text(1), waiting_.text(2),
-                          QDateTime::fromMSecsSinceEpoch(waiting_.integer(3)), waiting_.text(4)};
-    waiting_.stop();
-    return found;
+    return waiting_message{found.integer(0, 0), found.text(0, 1), found.text(0, 2),
+                           QDateTime::fromMSecsSinceEpoch(found.integer(0, 3)), found.text(0, 4)};
 }
 
 void received_rows::set_written(qint64 id, qint64 now) {

@@ -5,7 +5,7 @@
 
 #include "gateway/network.h"
 #include "gateway/store.h"
-#include "platform/bound_statement.h"
+#include "platform/database/bound_statement.h"
 
 #include <optional>
 

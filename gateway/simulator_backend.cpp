@@ -47,7 +47,7 @@ simulator_backend::simulator_backend(store* file, clock& time, const simulator_s
 
 void simulator_backend::start(network_sink& sink) {
     sink_ = &sink;
-    SqliteDatabase& database = store_->database();
+    physical_database& database = store_->database();
     database.execute(u"CREATE TABLE IF NOT EXISTS simulated (message INTEGER NOT NULL, at INTEGER "
                      "NOT NULL, outcome TEXT NOT NULL)"_s);
     database.execute(u"CREATE INDEX IF NOT EXISTS simulated_message ON simulated (message)"_s);
@@ -90,7 +90,7 @@ void simulator_backend::hand_over(const outgoing_message& message) {
 /// What comes together is written together, before anybody is told of it.
 void simulator_backend::remember() {
     const bool kept = try_store([this] {
-        transaction all(*store_);
+        transaction all(store_->database());
         for (const handed& one : std::as_const(handed_)) {
             insert_->run({one.message.id, clock_.now(), one.outcome});
         }
@@ -135,11 +135,10 @@ void simulator_backend::report_later(const outgoing_message& message) {
 void simulator_backend::ask(message_id id) {
     QString outcome = u"not now"_s; // what is not in the table has never come
     try_store([&] {
-        find_->start({id});
-        if (find_->next()) {
-            outcome = find_->text(0);
+        const RowStore found = find_->rows({id});
+        if (found.rows() > 0) {
+            outcome = found.text(0, 0);
         }
-        find_->stop();
     });
     later_.after(0ms, [this, id, outcome] { sink_->settle(id, to_handover(outcome)); });
 }

@@ -8,7 +8,7 @@
 #include "gateway/schedule.h"
 #include "gateway/settings.h"
 #include "gateway/store.h"
-#include "platform/bound_statement.h"
+#include "platform/database/bound_statement.h"
 
 #include <QList>
 

@@ -5,9 +5,8 @@
 
 #include "gateway/message_text.h"
 #include "gateway/store_tables.h"
-#include "platform/bound_statement.h"
 #include "platform/data_error.h"
-#include "platform/exclusive_lease.h"
+#include "platform/database/exclusive_lease.h"
 
 #include <QDir>
 
@@ -44,17 +43,18 @@ store::store(const QString& folder, user who) {
     const QString path = path_in(folder);
     if (who == user::daemon) {
         make_folder(folder);
-        database_.emplace(path, SqliteDatabase::Mode::create);
+        database_ = open_database(path, physical_database::open_mode::create);
         lease_ = std::make_unique<exclusive_lease>(path);
         if (!lease_->try_take()) {
             throw DataError(DataError::Kind::locked, say("another gateway has it open"));
         }
         prepare();
     } else {
-        database_.emplace(path, who == user::reader ? SqliteDatabase::Mode::read_only
-                                                    : SqliteDatabase::Mode::existing);
+        database_ =
+            open_database(path, who == user::reader ? physical_database::open_mode::read_only
+                                                    : physical_database::open_mode::existing);
     }
-    const int found = found_version();
+    const int found = database_->schema_version();
     if (found != version) {
         throw DataError(DataError::Kind::cannot_open,
                         found > version ? say("it is of a newer version of this program")
@@ -66,35 +66,11 @@ store::~store() = default;
 
 void store::prepare() {
     database_->execute_script("PRAGMA journal_mode=WAL");
-    if (found_version() == 0) {
-        transaction all(*this);
+    if (database_->schema_version() == 0) {
+        transaction all(*database_);
         database_->execute_script(store_tables);
         all.commit();
     }
-}
-
-int store::found_version() {
-    bound_statement statement(*database_, u"PRAGMA user_version"_s);
-    return statement.next() ? static_cast<int>(statement.integer(0)) : 0;
-}
-
-transaction::transaction(store& file) : database_(file.database()) {
-    database_.execute_script("BEGIN IMMEDIATE");
-}
-
-transaction::~transaction() {
-    if (open_ && database_.in_transaction()) {
-        try {
-            database_.execute_script("ROLLBACK");
-        } catch (const DataError&) {
-            // The store is out of order, which the statement before has told.
-        }
-    }
-}
-
-void transaction::commit() {
-    database_.execute_script("COMMIT");
-    open_ = false;
 }
 
 } // namespace gateway

@@ -3,12 +3,11 @@
 
 #pragma once
 
-#include "platform/sqlite_database.h"
+#include "platform/database/transaction.h"
 
 #include <QString>
 
 #include <memory>
-#include <optional>
 
 class exclusive_lease;
 
@@ -30,7 +29,7 @@ public:
     ~store();
     Q_DISABLE_COPY_MOVE(store)
 
-    [[nodiscard]] SqliteDatabase& database() { return *database_; }
+    [[nodiscard]] physical_database& database() { return *database_; }
 
     /// The file in a folder.
     [[nodiscard]] static QString path_in(const QString& folder);
@@ -39,25 +38,9 @@ public:
 
 private:
     void prepare();
-    [[nodiscard]] int found_version();
 
-    std::optional<SqliteDatabase> database_;
+    std::unique_ptr<physical_database> database_;
     std::unique_ptr<exclusive_lease> lease_;
-};
-
-/// Everything between its making and commit() happens together or not at all.
-class transaction {
-public:
-    /// Throws DataError when somebody else writes for longer than the store waits.
-    explicit transaction(store& file);
-    ~transaction();
-    Q_DISABLE_COPY_MOVE(transaction)
-
-    void commit();
-
-private:
-    SqliteDatabase& database_;
-    bool open_ = true;
 };
 
 } // namespace gateway

@@ -4,7 +4,7 @@
 #include "listview/column_chooser.h"
 
 #include "listview/dialog_buttons.h"
-#include "listview/spListHeaders.h"
+#include "data/spListHeaders.h"
 #include "platform/widgets/msgbox.h"
 
 #include <QComboBox>

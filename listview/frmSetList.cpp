@@ -4,8 +4,8 @@
 #include "listview/frmSetList.h"
 
 #include "listview/dialog_buttons.h"
-#include "listview/spListHeaders.h"
-#include "listview/view_definition.h"
+#include "data/spListHeaders.h"
+#include "listview/grid_columns.h"
 #include "platform/guarded.h"
 #include "platform/widgets/data_grid.h"
 #include "platform/widgets/msgbox.h"

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/recordset.h"
+#include "platform/database/recordset.h"
 
 #include <QDialog>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "listview/operation_log.h"
+#include "data/operation_log.h"
 
 #include <QDialog>
 

@@ -3,10 +3,10 @@
 
 #pragma once
 
+#include "data/operation_log.h"
+#include "data/spListHeaders.h"
 #include "listview/frmFind.h"
 #include "listview/list_rows.h"
-#include "listview/operation_log.h"
-#include "listview/spListHeaders.h"
 #include "listview/toolbar_builder.h"
 
 #include <QWidget>

@@ -5,9 +5,9 @@
 
 #include "listview/dialog_buttons.h"
 #include "listview/vc_in.h"
-#include "listview/view_definition.h"
+#include "listview/grid_columns.h"
+#include "platform/database/recordset.h"
 #include "platform/guarded.h"
-#include "platform/recordset.h"
 #include "platform/widgets/data_grid.h"
 #include "platform/widgets/msgbox.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "listview/spListHeaders.h"
+#include "data/spListHeaders.h"
 
 #include <QDialog>
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "listview/spListHeaders.h"
-#include "platform/recordset.h"
+#include "data/spListHeaders.h"
+#include "platform/database/recordset.h"
 
 #include <optional>
 

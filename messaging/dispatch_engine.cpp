@@ -6,7 +6,7 @@
 #include "data/c_parameter.h"
 #include "data/c_sendsms.h"
 #include "messaging/gateway_frame.h"
-#include "platform/exclusive_lease.h"
+#include "platform/database/exclusive_lease.h"
 #include "platform/try_step.h"
 
 namespace {

@@ -3,9 +3,11 @@
 
 #include "operators/frmRights.h"
 
+#include "data/c_rights.h"
+#include "data/c_users.h"
 #include "data/strconn.h"
-#include "listview/view_definition.h"
-#include "platform/command.h"
+#include "data/view_definition.h"
+#include "listview/grid_columns.h"
 #include "platform/guarded.h"
 #include "platform/try_step.h"
 #include "platform/widgets/data_grid.h"
@@ -26,10 +28,6 @@ void shape_grid(DataGrid& grid, const QString& view_no) {
 
 bool on_row(const Recordset& rs) {
     return rs.State() == Recordset::StateEnum::open && !rs.Bof() && !rs.Eof();
-}
-
-void execute(const QString& statement) {
-    Command{.ActiveConnection = strconn, .CommandText = statement}.Execute();
 }
 
 DataGrid* add_grid(QGridLayout& layout, int column, const QString& name, const QString& caption) {
@@ -71,16 +69,13 @@ frmRights::~frmRights() {
 }
 
 void frmRights::read_users() {
-    users_.set_ActiveConnection(strconn);
-    users_.Open(u"users"_s);
-    users_.detach();
+    c_users().openrs(users_);
 }
 
 void frmRights::read_functions() {
     functions_.OpenInMemory({u"funid"_s, u"funName"_s, u"Selected"_s});
     Recordset stored;
-    stored.set_ActiveConnection(strconn);
-    stored.Open(u"Functions"_s);
+    c_rights().open_functions(stored);
     for (; !stored.Eof(); stored.MoveNext()) {
         functions_.AddNew();
         functions_.set_Fields(u"funid"_s, stored.Fields(u"FunId"_s));
@@ -109,7 +104,7 @@ void frmRights::GetOneRights(qint32 userid) {
     ResetFuns();
     Recordset rights;
     rights.set_ActiveConnection(strconn);
-    rights.Open(u"select * from rights where userid=%1"_s.arg(userid));
+    c_rights::openrs(rights, userid);
     for (; !rights.Eof(); rights.MoveNext()) {
         functions_.MoveFirst();
         functions_.Find(u"funid=%1"_s.arg(rights.Fields(u"funid"_s).toInt()));
@@ -152,9 +147,9 @@ void frmRights::toggle() {
 }
 
 void frmRights::ADDRight(qint32 userid, qint32 funid) {
-    execute(u"insert into rights (userid,funid) values (%1,%2)"_s.arg(userid).arg(funid));
+    c_rights().addrec(userid, funid);
 }
 
 void frmRights::DeleteRight(qint32 userid, qint32 funid) {
-    execute(u"delete  from rights where userid=%1 and funid=%2"_s.arg(userid).arg(funid));
+    c_rights().deleterec(userid, funid);
 }

@@ -3,6 +3,7 @@
 
 #include "operators/rsclsuser.h"
 
+#include "data/c_rights.h"
 #include "data/strconn.h"
 #include "platform/data_error.h"
 #include "platform/widgets/msgbox.h"
@@ -57,7 +58,7 @@ void rsclsuser::refreshRights() {
             cn_.Open();
         }
         rsrights_.set_ActiveConnection(cn_);
-        rsrights_.Open(u"select * from rights where userid=%1"_s.arg(userid_));
+        c_rights::openrs(rsrights_, userid_);
     } catch (const DataError&) { // NOLINT(bugprone-empty-catch)
         // The set stays closed, and CanDo answers no.
     }

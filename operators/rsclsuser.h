@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/connection.h"
-#include "platform/recordset.h"
+#include "platform/database/connection.h"
+#include "platform/database/recordset.h"
 
 #include <QObject>
 

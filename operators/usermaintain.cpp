@@ -3,13 +3,11 @@
 
 #include "operators/usermaintain.h"
 
-#include "data/literals.h"
+#include "data/c_users.h"
 #include "data/nvltrim.h"
-#include "data/strconn.h"
 #include "operators/frmuser.h"
 #include "operators/rsclsuser.h"
-#include "platform/command.h"
-#include "platform/recordset.h"
+#include "platform/database/recordset.h"
 #include "platform/widgets/msgbox.h"
 
 #include <QApplication>
@@ -18,27 +16,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void execute(const QString& statement) {
-    Command{.ActiveConnection = strconn, .CommandText = statement}.Execute();
-}
-
-/// Runs what saves an operator and tells when it fails.
-bool save(const std::function<void()>& saves) {
-    try {
-        saves();
-        return true;
-    } catch (const std::exception&) {
+bool tell_failure(bool saved) {
+    if (!saved) {
         msgbox::information(u"输入错误，操作员不能保存！"_s, u"不能保存"_s);
-        return false;
     }
+    return saved;
 }
 
-/// The operator's row in the dialog's record; false when there is none.
 bool read_user(frmuser& dialog, qint32 id) {
     Recordset rs;
-    rs.set_ActiveConnection(strconn);
-    rs.Open(u"SELECT [userid], [username], [password] FROM Users where userid=%1"_s.arg(id));
-    rs.detach();
+    c_users().open_user(rs, id);
     if (rs.Bof() && rs.Eof()) {
         return false;
     }
@@ -93,9 +80,7 @@ bool usermaintain::modifyuser(qint32 id, const QString& first_box) {
 }
 
 bool usermaintain::deleteuser(qint32 id) {
-    try {
-        execute(u"delete from users where userid=%1"_s.arg(id));
-    } catch (const std::exception&) {
+    if (!c_users().deleterec(id)) {
         msgbox::information(u"不能删除操作员，编号为:"_s + QString::number(id), u"删除错误"_s);
         return false;
     }
@@ -116,23 +101,14 @@ bool usermaintain::checkuser(frmuser& dialog) {
 }
 
 bool usermaintain::insertuser(const frmuser& dialog) {
-    return save([&dialog] {
-        execute(u"INSERT INTO users ( username,password ) values (%1,%2)"_s.arg(
-            literal(dialog.record.username), literal(nvltrim(dialog.record.password))));
-    });
+    return tell_failure(c_users().addrec(dialog.record.username, nvltrim(dialog.record.password)));
 }
 
 bool usermaintain::updateuser(const frmuser& dialog) {
-    return save([&dialog] {
-        execute(u"update users set username=%1, password =%2 where userid=%3"_s.arg(
-            literal(dialog.record.username), literal(dialog.record.password),
-            dialog.record.userid));
-    });
+    return tell_failure(c_users().updaterec(dialog.record.userid.toInt(), dialog.record.username,
+                                            dialog.record.password));
 }
 
 void usermaintain::Userrs(Recordset& rs) {
-    rs.set_ActiveConnection(strconn);
-    rs.LockType = Recordset::LockTypeEnum::read_only;
-    rs.Open(u"Users"_s);
-    rs.detach();
+    c_users().openrs(rs);
 }

@@ -16,6 +16,7 @@ public:
         cannot_open,    ///< the file is there but cannot be read
         not_a_database, ///< the file is no database or is damaged
         old_format,     ///< the file is a database of the old format
+        newer_version,  ///< a newer version of this system has made or changed the database
         locked,         ///< somebody else kept the file longer than the waiting time
         disk,           ///< the disk is full, or reading or writing failed
         statement,      ///< the engine refused a statement

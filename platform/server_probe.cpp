@@ -3,7 +3,6 @@
 
 #include "platform/server_probe.h"
 
-#include "platform/connection_string.h"
 #include "platform/data_error.h"
 
 #include <QNetworkProxy>
@@ -18,8 +17,7 @@ constexpr int longest_wait_ms = 3000;
 
 } // namespace
 
-void probe_server(const QString& connection_string) {
-    const QString server = data_source(connection_string);
+void probe_server(const QString& server) {
     const QString host = server.section(u',', 0, 0).trimmed();
     const QString port_text = server.section(u',', 1).trimmed();
     bool is_port = true;

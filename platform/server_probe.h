@@ -5,7 +5,6 @@
 
 #include <QString>
 
-/// Tries to reach the server that a connection string names under "Data Source", as "host" or
-/// "host,port" (1433 when none is given), and waits 3 s at most. Throws DataError (cannot_open)
-/// when it cannot be reached.
-void probe_server(const QString& connection_string);
+/// Tries to reach a server, "host" or "host,port" (1433 when none is given), and waits 3 s at most.
+/// Throws DataError (cannot_open) when it cannot be reached.
+void probe_server(const QString& server);

@@ -4,12 +4,11 @@
 #include "platform/conversion.h"
 #include "platform/csv.h"
 #include "platform/data_error.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/transaction.h"
 #include "tools/closing_up.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/new_file.h"
-#include "tools/query.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -75,9 +74,9 @@ struct selection {
     QStringList unreadable_closed; ///< their numbers once those that stay have closed up
 };
 
-selection select(SqliteDatabase& database, const message_table& table, QDate before) {
+selection select(physical_database& database, const message_table& table, QDate before) {
     selection selected;
-    for (const QStringList& row : query_rows(database, table.query)) {
+    for (const QStringList& row : database.texts(table.query)) {
         const bool done = row.at(1) == u"-1";
         const QDate day = read_datetime(row.at(2)).date();
         if (done && day.isValid() && day < before) {
@@ -103,7 +102,7 @@ QByteArray archive_of(const QList<selection>& selections) {
 }
 
 /// Takes out the rows of these keys.
-void take_out(SqliteDatabase& database, const message_table& table, const QStringList& going) {
+void take_out(physical_database& database, const message_table& table, const QStringList& going) {
     for (const QString& key : going) {
         database.execute(u"DELETE FROM %1 WHERE %2 = %3"_s.arg(table.name, table.key, key));
     }
@@ -148,8 +147,9 @@ QString required(const QCommandLineParser& arguments, const QString& option) {
     return arguments.value(option);
 }
 
-void move_out(SqliteDatabase& database, const QString& file, const QString& place,
-              const QList<message_table>& tables, const QList<selection>& selections) {
+void move_out(physical_database& database, transaction& moving, const QString& file,
+              const QString& place, const QList<message_table>& tables,
+              const QList<selection>& selections) {
     new_file archive(place);
     archive.write(archive_of(selections));
     for (qsizetype i = 0; i < tables.size(); ++i) {
@@ -161,7 +161,7 @@ void move_out(SqliteDatabase& database, const QString& file, const QString& plac
     conclude(told, [&] {
         archive.put_in_place();
         try {
-            database.execute(u"COMMIT"_s);
+            moving.commit();
         } catch (const DataError& error) {
             throw failure(u"%1; its messages stay in it, though %2 is written"_s.arg(
                 describe(error, file), place));
@@ -176,20 +176,20 @@ int run(const QCommandLineParser& arguments) {
     const QString place = arguments.isSet(u"to"_s)
                               ? required(arguments, u"to"_s)
                               : u"%1-before-%2.csv"_s.arg(file, before.toString(Qt::ISODate));
-    SqliteDatabase database(file, SqliteDatabase::Mode::existing, 0);
-    closing_up::keep_to_oneself(database, file);
+    const auto database = open_database(file, physical_database::open_mode::existing, 0);
+    transaction moving = closing_up::keep_to_oneself(*database, file);
     const QList<message_table> tables = message_tables();
     QList<selection> selections;
     qsizetype going = 0;
     for (const message_table& table : tables) {
-        selections.append(select(database, table, before));
+        selections.append(select(*database, table, before));
         going += selections.last().going.size();
     }
     if (going == 0) {
         print(report(tables, selections, {}) + u"nothing to archive\n"_s);
         return exit_status::clean;
     }
-    move_out(database, file, place, tables, selections);
+    move_out(*database, moving, file, place, tables, selections);
     return exit_status::clean;
 }
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "platform/exclusive_lease.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/exclusive_lease.h"
+#include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/inspection.h"
@@ -42,8 +42,8 @@ system, the old format, locked).
 
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().first();
-    SqliteDatabase database(file, SqliteDatabase::Mode::read_only);
-    inspection found = inspect(database);
+    const auto database = open_database(file, physical_database::open_mode::read_only);
+    inspection found = inspect(*database);
     if (const QString lease = exclusive_lease::unwritable_file(file); !lease.isEmpty()) {
         found.findings.append(
             u"%1 cannot be written: a client that may not mend it sends nothing"_s.arg(lease));

@@ -4,10 +4,9 @@
 #include "tools/closing_up.h"
 
 #include "platform/data_error.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
-#include "tools/query.h"
 
 #include <array>
 
@@ -29,10 +28,12 @@ constexpr auto tables = std::to_array<numbered_table>({{u"sendsms", u"smsid"},
 
 } // namespace
 
-void closing_up::keep_to_oneself(SqliteDatabase& database, const QString& file) {
+transaction closing_up::keep_to_oneself(physical_database& database, const QString& file) {
     database.execute(u"PRAGMA locking_mode=EXCLUSIVE"_s);
     try {
-        database.execute(u"BEGIN EXCLUSIVE"_s);
+        // A file that cannot be written is refused before anything is done.
+        database.execute(u"DELETE FROM sendsms WHERE 0"_s);
+        return transaction(database, physical_database::purpose::alone);
     } catch (const DataError& error) {
         if (error.kind() == DataError::Kind::locked) {
             throw failure(
@@ -40,11 +41,9 @@ void closing_up::keep_to_oneself(SqliteDatabase& database, const QString& file) 
         }
         throw;
     }
-    // A file that cannot be written is refused before anything is done.
-    database.execute(u"DELETE FROM sendsms WHERE 0"_s);
 }
 
-QStringList closing_up::close_up(SqliteDatabase& database) {
+QStringList closing_up::close_up(physical_database& database) {
     QStringList next;
     for (const auto& [name, key] : tables) {
         // Below every key first, so that no new key meets an old one.
@@ -55,16 +54,16 @@ QStringList closing_up::close_up(SqliteDatabase& database) {
         database.execute(
             u"UPDATE sqlite_sequence SET seq = (SELECT count(*) FROM %1) WHERE name = '%1'"_s.arg(
                 name));
-        next.append(u"%1 %2"_s.arg(name).arg(
-            query_number(database, u"SELECT count(*) + 1 FROM %1"_s.arg(name))));
+        next.append(
+            u"%1 %2"_s.arg(name).arg(database.number(u"SELECT count(*) + 1 FROM %1"_s.arg(name))));
     }
     return next;
 }
 
-void closing_up::shrink(SqliteDatabase& database) {
+void closing_up::shrink(physical_database& database) {
     try {
         database.execute(u"VACUUM"_s);
-        database.fold_log();
+        database.rest();
     } catch (const DataError& error) {
         complain(u"the file stays as large as it is: "_s + error.detail());
     }

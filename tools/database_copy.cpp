@@ -3,13 +3,12 @@
 
 #include "tools/database_copy.h"
 
-#include "data/schema.h"
+#include "data/schema_steps.h"
 #include "platform/data_error.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/inspection.h"
-#include "tools/query.h"
 
 #include <QStringList>
 
@@ -26,11 +25,10 @@ const QStringList& tables() {
     return names;
 }
 
-void require_ours(SqliteDatabase& database, const QString& file) {
+void require_ours(physical_database& database, const QString& file) {
     QStringList missing;
     for (const QString& table : tables()) {
-        if (query_number(
-                database,
+        if (database.number(
                 u"SELECT count(*) FROM sqlite_master WHERE type = 'table' AND name = '%1' COLLATE NOCASE"_s
                     .arg(table)) == 0) {
             missing.append(table);
@@ -40,30 +38,30 @@ void require_ours(SqliteDatabase& database, const QString& file) {
         throw failure(
             u"%1: is no database of this system: it has no table %2"_s.arg(file, some_of(missing)));
     }
-    if (query_number(database, u"PRAGMA user_version"_s) > schema_version) {
+    if (database.schema_version() > newest_schema_version()) {
         throw failure(u"%1: was made by a newer version of this system"_s.arg(file));
     }
 }
 
-void fill(SqliteDatabase& source, const QString& path) {
-    SqliteDatabase copy(path, SqliteDatabase::Mode::create);
-    source.copy_to(copy);
+void fill(physical_database& source, const QString& path) {
+    const auto copy = open_database(path, physical_database::open_mode::create);
+    source.copy_to(*copy);
     // Then it needs no log beside it, also on a medium that cannot be written.
-    copy.execute(u"PRAGMA journal_mode=DELETE"_s);
+    copy->execute(u"PRAGMA journal_mode=DELETE"_s);
 }
 
 } // namespace
 
 void copy_database(const QString& file, const QString& path, const QString& place) {
-    SqliteDatabase source(file, SqliteDatabase::Mode::read_only);
+    const auto source = open_database(file, physical_database::open_mode::read_only);
     try {
-        fill(source, path);
-        SqliteDatabase copy(path, SqliteDatabase::Mode::read_only);
-        const QStringList faults = integrity_faults(copy);
+        fill(*source, path);
+        const auto copy = open_database(path, physical_database::open_mode::read_only);
+        const QStringList faults = integrity_faults(*copy);
         if (!faults.isEmpty()) {
             throw failure(u"%1: is damaged: %2"_s.arg(file, faults.first()));
         }
-        require_ours(copy, file);
+        require_ours(*copy, file);
     } catch (const DataError& error) {
         // Nobody else touches the copy: what is locked or damaged is the database.
         const bool of_the_copy =

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/csv.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/customer_sheet.h"
 #include "tools/new_file.h"
-#include "tools/query.h"
 
 #include <QCommandLineParser>
 
@@ -30,9 +29,9 @@ Exit status: 0 written; 2 not written.
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().at(0);
     const QString place = arguments.positionalArguments().at(1);
-    SqliteDatabase database(file, SqliteDatabase::Mode::read_only);
-    const QList<QStringList> customers = query_rows(
-        database, u"SELECT cname, mobile, sex, birth, phone, memo FROM customer ORDER BY cid"_s);
+    const auto database = open_database(file, physical_database::open_mode::read_only);
+    const QList<QStringList> customers = database->texts(
+        u"SELECT cname, mobile, sex, birth, phone, memo FROM customer ORDER BY cid"_s);
     QStringList headings;
     for (const auto& column : customer_columns()) {
         headings.append(column.second);

@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "platform/bound_statement.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/bound_statement.h"
+#include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/inspection.h"
-#include "tools/query.h"
 
 #include <QCommandLineParser>
 
@@ -25,17 +24,17 @@ Exit status: 0 granted; 2 not granted.
 )";
 
 /// The number of the row that was just inserted. Throws failure when the screens cannot hold it.
-qint64 given_number(const SqliteDatabase& database, const QString& table) {
-    if (database.last_insert_rowid() > last_number) {
+qint64 given_number(physical_database& database, const QString& table) {
+    if (database.last_key() > last_number) {
         throw failure(
             u"the numbers of %1 run out: there are no more than %2"_s.arg(table).arg(last_number));
     }
-    return database.last_insert_rowid();
+    return database.last_key();
 }
 
-qint64 operator_named(SqliteDatabase& database, const QString& name) {
+qint64 operator_named(physical_database& database, const QString& name) {
     const qint64 found =
-        query_number(database, u"SELECT min(userid) FROM users WHERE username = '%1'"_s.arg(name));
+        database.number(u"SELECT min(userid) FROM users WHERE username = '%1'"_s.arg(name));
     if (found > 0) {
         return found;
     }
@@ -43,11 +42,10 @@ qint64 operator_named(SqliteDatabase& database, const QString& name) {
     return given_number(database, u"users"_s);
 }
 
-void grant_everything(SqliteDatabase& database, qint64 userid) {
+void grant_everything(physical_database& database, qint64 userid) {
     database.execute(u"UPDATE users SET password = '' WHERE userid = %1"_s.arg(userid));
     for (const int right : {1, 2}) {
-        if (query_number(
-                database,
+        if (database.number(
                 u"SELECT count(*) FROM rights WHERE userid = %1 AND funid = %2"_s.arg(userid).arg(
                     right)) == 0) {
             database.execute(
@@ -63,15 +61,15 @@ int run(const QCommandLineParser& arguments) {
     if (name.isEmpty() || name.contains(u'\'')) {
         throw failure(u"%1: nobody can log in under this name"_s.arg(shown(name)));
     }
-    SqliteDatabase database(file);
-    database.execute(u"BEGIN IMMEDIATE"_s);
-    const qint64 userid = operator_named(database, name);
-    grant_everything(database, userid);
-    database.write_ahead();
+    const auto database = open_database(file);
+    transaction granting(*database);
+    const qint64 userid = operator_named(*database, name);
+    grant_everything(*database, userid);
+    database->write_ahead();
     conclude(
         u"operator %1 (number %2) has both rights\nWARNING: THE PASSWORD IS EMPTY NOW. Anybody can log in as %1; do it at once and set a password.\n"_s
             .arg(shown(name), QString::number(userid)),
-        [&database] { database.execute(u"COMMIT"_s); });
+        [&granting] { granting.commit(); });
     return exit_status::clean;
 }
 

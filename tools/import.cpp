@@ -3,7 +3,7 @@
 
 #include "data/schema.h"
 #include "platform/data_error.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/inspection.h"
@@ -11,7 +11,6 @@
 #include "tools/new_file.h"
 #include "tools/old_records.h"
 #include "tools/old_views.h"
-#include "tools/query.h"
 #include "tools/table_filler.h"
 
 #include <QCommandLineParser>
@@ -57,7 +56,7 @@ Exit status: 0 all carried, and no findings; 1 made, with losses or findings; 2 
 /// The import of one old database into a fresh one.
 class importer {
 public:
-    explicit importer(SqliteDatabase& database) : database_(database) {}
+    explicit importer(physical_database& database) : database_(database) {}
 
     void run(old_records& records);
     [[nodiscard]] const losses& lost() const { return lost_; }
@@ -74,7 +73,7 @@ private:
     void finish_table();
     void report_missing();
 
-    SqliteDatabase& database_;
+    physical_database& database_;
     losses lost_;
     QMap<QString, counts> counts_; ///< of the tables that the old database has, by our names
     QString table_;                ///< the one that rows come for, by our name or, unknown, its own
@@ -82,9 +81,8 @@ private:
     std::optional<table_filler> filler_; ///< none for an unknown table
 };
 
-QStringList tables_of(SqliteDatabase& database) {
-    return query_column(
-        database,
+QStringList tables_of(physical_database& database) {
+    return database.column(
         u"SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%' ORDER BY rowid"_s);
 }
 
@@ -143,7 +141,7 @@ void importer::report_missing() {
 }
 
 void importer::run(old_records& records) {
-    database_.execute(u"BEGIN"_s);
+    transaction all(database_);
     old_views::make_waiting_places(database_);
     for (;;) {
         const old_records::record found = records.next();
@@ -159,7 +157,7 @@ void importer::run(old_records& records) {
     }
     report_missing();
     old_views::put_in_place(database_, lost_);
-    database_.execute(u"COMMIT"_s);
+    all.commit();
 }
 
 QString importer::report() const {
@@ -175,8 +173,8 @@ QString importer::report() const {
                     .arg(is_fresh ? u"fresh"_s : QString::number(written), 10);
     }
     text += u'\n' + lost_.lines();
-    const qint64 waiting = query_number(
-        database_, u"SELECT count(*) FROM sendsms WHERE sendisok = 0 AND stime IS NOT NULL"_s);
+    const qint64 waiting = database_.number(
+        u"SELECT count(*) FROM sendsms WHERE sendisok = 0 AND stime IS NOT NULL"_s);
     if (waiting > 0) {
         text +=
             u"%1 message(s) wait to be sent; the next client that starts with the gateway sends those that are due\n"_s
@@ -195,15 +193,15 @@ int run(const QCommandLineParser& arguments) {
     bool is_whole = false;
     try {
         make_database(made.path());
-        SqliteDatabase database(made.path());
+        const auto database = open_database(made.path());
         old_records records(old, charset);
-        importer importing(database);
+        importer importing(*database);
         importing.run(records);
-        const inspection found = inspect(database);
+        const inspection found = inspect(*database);
         report = importing.report() + lines(found);
         is_whole = importing.lost().isEmpty() && found.findings.isEmpty();
         // Then it needs no log beside it until a client opens it.
-        database.execute(u"PRAGMA journal_mode=DELETE"_s);
+        database->execute(u"PRAGMA journal_mode=DELETE"_s);
     } catch (const DataError& error) {
         throw failure(describe(error, place));
     }

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "data/dialled_number.h"
-#include "platform/bound_statement.h"
 #include "platform/data_error.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/bound_statement.h"
+#include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/customer_sheet.h"
 #include "tools/inspection.h"
-#include "tools/query.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -60,7 +59,7 @@ enum class duplicates { skip, add, update };
 /// One import into a database, within its transaction.
 class customer_importer {
 public:
-    customer_importer(SqliteDatabase& database, duplicates way, const QString& into_class);
+    customer_importer(physical_database& database, duplicates way, const QString& into_class);
 
     void take(const customer_line& line);
     [[nodiscard]] const QStringList& remarks() const { return remarks_; }
@@ -74,7 +73,7 @@ private:
     /// it.
     [[nodiscard]] qint64 given_number(const QString& table);
 
-    SqliteDatabase& database_;
+    physical_database& database_;
     duplicates way_;
     qint64 class_ = 0;                 ///< 0 for none
     QSet<qint64> members_;             ///< the customers in that class
@@ -86,31 +85,31 @@ private:
     qint64 skipped_ = 0;
 };
 
-customer_importer::customer_importer(SqliteDatabase& database, duplicates way,
+customer_importer::customer_importer(physical_database& database, duplicates way,
                                      const QString& into_class)
     : database_(database), way_(way) {
-    for (const QStringList& row : query_rows(
-             database, u"SELECT mobile, cid FROM customer WHERE mobile > '' ORDER BY cid DESC"_s)) {
+    for (const QStringList& row : database.texts(
+             u"SELECT mobile, cid FROM customer WHERE mobile > '' ORDER BY cid DESC"_s)) {
         by_mobile_.insert(dialled_number(row.at(0)), row.at(1).toLongLong());
     }
     if (into_class.isEmpty()) {
         return;
     }
-    class_ = query_number(database,
-                          u"SELECT min(ccid) FROM cusclass WHERE cname = '%1'"_s.arg(into_class));
+    class_ =
+        database.number(u"SELECT min(ccid) FROM cusclass WHERE cname = '%1'"_s.arg(into_class));
     if (class_ == 0) {
         bound_statement(database, u"INSERT INTO cusclass (cname) VALUES (?)"_s).run({into_class});
         class_ = given_number(u"cusclass"_s);
         remarks_.append(u"class %1 is new"_s.arg(shown(into_class)));
     }
     for (const QString& cid :
-         query_column(database, u"SELECT cid FROM cgroup WHERE ccid = %1"_s.arg(class_))) {
+         database.column(u"SELECT cid FROM cgroup WHERE ccid = %1"_s.arg(class_))) {
         members_.insert(cid.toLongLong());
     }
 }
 
 qint64 customer_importer::given_number(const QString& table) {
-    const qint64 number = database_.last_insert_rowid();
+    const qint64 number = database_.last_key();
     if (number > last_number) {
         throw failure(
             u"the numbers of %1 run out at %2: no more than %3 new one(s) fit; nothing is imported"_s
@@ -214,12 +213,12 @@ QString class_of(const QCommandLineParser& arguments) {
 }
 
 /// The database, or for a trial a copy of it in memory, which keeps nobody waiting.
-std::unique_ptr<SqliteDatabase> opened(const QString& file, bool is_trial) {
+std::unique_ptr<physical_database> opened(const QString& file, bool is_trial) {
     if (!is_trial) {
-        return std::make_unique<SqliteDatabase>(file);
+        return open_database(file);
     }
-    auto copy = std::make_unique<SqliteDatabase>(QString(), SqliteDatabase::Mode::memory);
-    SqliteDatabase(file, SqliteDatabase::Mode::read_only).copy_to(*copy);
+    auto copy = open_database({}, physical_database::open_mode::memory);
+    open_database(file, physical_database::open_mode::read_only)->copy_to(*copy);
     return copy;
 }
 
@@ -245,8 +244,8 @@ int run(const QCommandLineParser& arguments) {
     refuse_charset(charset);
     const customer_sheet sheet = read_customers(content_of(csv), csv, charset);
     try {
-        const std::unique_ptr<SqliteDatabase> database = opened(file, is_trial);
-        database->execute(u"BEGIN IMMEDIATE"_s);
+        const std::unique_ptr<physical_database> database = opened(file, is_trial);
+        transaction importing_all(*database);
         customer_importer importing(*database, way, into_class);
         for (const customer_line& line : sheet.customers) {
             importing.take(line);
@@ -258,7 +257,7 @@ int run(const QCommandLineParser& arguments) {
         }
         told += (is_trial ? u"dry run, nothing is changed: "_s : QString()) + importing.summary();
         database->write_ahead();
-        conclude(told, [&database] { database->execute(u"COMMIT"_s); });
+        conclude(told, [&importing_all] { importing_all.commit(); });
         return remarks.isEmpty() ? exit_status::clean : exit_status::findings;
     } catch (const DataError& error) {
         throw failure(describe(error, file));

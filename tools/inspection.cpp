@@ -3,12 +3,10 @@
 
 #include "tools/inspection.h"
 
-#include "data/delivered_views.h"
-#include "data/schema_sql.h"
+#include "data/schema.h"
 #include "platform/data_error.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/transaction.h"
 #include "tools/console.h"
-#include "tools/query.h"
 #include "tools/references.h"
 #include "tools/row_faults.h"
 #include "tools/stored_numbers.h"
@@ -22,9 +20,8 @@ constexpr qint64 nearly_full = 80;
 
 class inspector {
 public:
-    explicit inspector(SqliteDatabase& database) : database_(database) {
-        delivered_.execute_script(schema_sql);
-        write_delivered_views(delivered_);
+    explicit inspector(physical_database& database) : database_(database) {
+        fill_database(*fresh_);
     }
 
     inspection inspect();
@@ -49,8 +46,10 @@ private:
     void look_at_parameters();
     void look_at_view_definitions();
 
-    SqliteDatabase& database_;
-    SqliteDatabase delivered_{{}, SqliteDatabase::Mode::memory}; ///< how everything should be
+    physical_database& database_;
+    /// How everything should be.
+    std::unique_ptr<physical_database> fresh_ =
+        open_database({}, physical_database::open_mode::memory);
     inspection found_;
     bool sound_ = true;    ///< the engine finds nothing broken
     bool complete_ = true; ///< nothing of the schema is missing
@@ -78,19 +77,18 @@ void put_down(const QString& what, const QStringList& rows, QStringList& among) 
 
 void inspector::report_rows(const QString& what, QStringView table, const QString& condition,
                             QStringList& among) {
-    put_down(what,
-             query_column(database_,
-                          u"SELECT rowid FROM %1 WHERE %2 ORDER BY rowid"_s.arg(table, condition)),
-             among);
+    put_down(
+        what,
+        database_.column(u"SELECT rowid FROM %1 WHERE %2 ORDER BY rowid"_s.arg(table, condition)),
+        among);
 }
 
-QStringList columns_of(SqliteDatabase& database, const QString& table) {
-    return query_column(database, u"SELECT lower(name) FROM pragma_table_info('%1')"_s.arg(table));
+QStringList columns_of(physical_database& database, const QString& table) {
+    return database.column(u"SELECT lower(name) FROM pragma_table_info('%1')"_s.arg(table));
 }
 
 void inspector::look_for(const QString& name, const QString& kind) {
-    if (query_number(
-            database_,
+    if (database_.number(
             u"SELECT count(*) FROM sqlite_master WHERE type = '%1' AND name = '%2' COLLATE NOCASE"_s
                 .arg(kind, name)) == 0) {
         complete_ = false;
@@ -108,7 +106,7 @@ void inspector::look_for(const QString& name, const QString& kind) {
         report(u"%1 %2 cannot be read: %3"_s.arg(kind, name, error.detail()));
         return;
     }
-    for (const QString& column : columns_of(delivered_, name)) {
+    for (const QString& column : columns_of(*fresh_, name)) {
         if (!there.contains(column)) {
             complete_ = false;
             report(u"column %1.%2 is missing"_s.arg(name, column));
@@ -118,10 +116,10 @@ void inspector::look_for(const QString& name, const QString& kind) {
 
 void inspector::look_at_key(const QString& table, const QString& key) {
     const QStringList row =
-        query_rows(
-            database_,
-            u"SELECT count(*), max(ifnull(max(%2), 0), ifnull((SELECT max(seq) FROM sqlite_sequence WHERE name = '%1' COLLATE NOCASE), 0)) FROM %1"_s
-                .arg(table, key))
+        database_
+            .texts(
+                u"SELECT count(*), max(ifnull(max(%2), 0), ifnull((SELECT max(seq) FROM sqlite_sequence WHERE name = '%1' COLLATE NOCASE), 0)) FROM %1"_s
+                    .arg(table, key))
             .first();
     const numbering counted{table, key, row.at(0).toLongLong(), row.at(1).toLongLong()};
     found_.numberings.append(counted);
@@ -133,8 +131,7 @@ void inspector::look_at_key(const QString& table, const QString& key) {
 }
 
 void inspector::look_at_numbers(const QString& table) {
-    const QStringList columns = query_column(
-        delivered_,
+    const QStringList columns = fresh_->column(
         u"SELECT name FROM pragma_table_info('%1') WHERE type = 'INTEGER'"_s.arg(table));
     for (const QString& column : columns) {
         report_rows(
@@ -165,8 +162,7 @@ void inspector::look_at_telephone_numbers(const number_column& column) {
 }
 
 void inspector::look_at_operators() {
-    if (query_number(
-            database_,
+    if (database_.number(
             u"SELECT count(*) FROM rights NATURAL JOIN users WHERE funid = 1 AND username IS NOT NULL AND password IS NOT NULL"_s) ==
         0) {
         report(u"nobody can manage the operators (see smsdb grant)"_s);
@@ -174,7 +170,7 @@ void inspector::look_at_operators() {
 }
 
 void inspector::look_at_parameters() {
-    const qint64 rows = query_number(database_, u"SELECT count(*) FROM parameters"_s);
+    const qint64 rows = database_.number(u"SELECT count(*) FROM parameters"_s);
     if (rows != 1) {
         report(u"parameters: holds %1 rows where there must be one"_s.arg(rows));
     }
@@ -182,10 +178,10 @@ void inspector::look_at_parameters() {
 }
 
 void inspector::look_at_view_definitions() {
-    for (const QString& view : query_column(delivered_, u"SELECT ViewNo FROM viewdef"_s)) {
+    for (const QString& view : fresh_->column(u"SELECT ViewNo FROM viewdef"_s)) {
         for (const QString& table : {u"viewdef"_s, u"viewitems"_s}) {
-            if (query_number(database_, u"SELECT count(*) FROM %1 WHERE ViewNo = '%2'"_s.arg(
-                                            table, view)) == 0) {
+            if (database_.number(
+                    u"SELECT count(*) FROM %1 WHERE ViewNo = '%2'"_s.arg(table, view)) == 0) {
                 report(u"%1: the list %2 is not defined"_s.arg(table, view));
             }
         }
@@ -197,13 +193,12 @@ inspection inspector::inspect() {
         sound_ = false;
         report(u"damaged: %1"_s.arg(fault));
     }
-    const QList<QStringList> objects = query_rows(
-        delivered_, u"SELECT name, type FROM sqlite_master WHERE type IN ('table', 'view')"_s);
+    const QList<QStringList> objects =
+        fresh_->texts(u"SELECT name, type FROM sqlite_master WHERE type IN ('table', 'view')"_s);
     for (const QStringList& object : objects) {
         attempt([&] { look_for(object.at(0), object.at(1)); });
     }
-    const QList<QStringList> keys = query_rows(
-        delivered_,
+    const QList<QStringList> keys = fresh_->texts(
         u"SELECT m.name, p.name FROM sqlite_master m, pragma_table_info(m.name) p WHERE m.type = 'table' AND p.pk = 1"_s);
     for (const QStringList& key : keys) {
         attempt([&] { look_at_key(key.at(0), key.at(1)); });
@@ -234,11 +229,9 @@ inspection inspector::inspect() {
 
 } // namespace
 
-inspection inspect(SqliteDatabase& database) {
-    database.execute_script("BEGIN"); // one moment for all
-    inspection found = inspector(database).inspect();
-    database.execute_script("COMMIT");
-    return found;
+inspection inspect(physical_database& database) {
+    const transaction moment(database, physical_database::purpose::reading);
+    return inspector(database).inspect();
 }
 
 QString lines(const inspection& found) {
@@ -252,10 +245,9 @@ QString lines(const inspection& found) {
     return text;
 }
 
-QStringList integrity_faults(SqliteDatabase& database) {
+QStringList integrity_faults(physical_database& database) {
     try {
-        QStringList faults =
-            query_column(database, u"PRAGMA integrity_check"_s).join(u'\n').split(u'\n');
+        QStringList faults = database.column(u"PRAGMA integrity_check"_s).join(u'\n').split(u'\n');
         faults.removeAll(u"ok"_s);
         return faults;
     } catch (const DataError& error) { // so broken that the check itself gives up

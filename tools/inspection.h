@@ -6,7 +6,7 @@
 #include <QList>
 #include <QStringList>
 
-class SqliteDatabase;
+class physical_database;
 
 /// The highest number that the client can hold in a key.
 inline constexpr qint64 last_number = 32767;
@@ -28,10 +28,10 @@ struct inspection {
 
 /// Looks through the whole database as it is at this moment. Throws failure when it holds no table
 /// of ours, DataError when it cannot be read.
-[[nodiscard]] inspection inspect(SqliteDatabase& database);
+[[nodiscard]] inspection inspect(physical_database& database);
 
 /// Notes and findings as they are reported, a line each.
 [[nodiscard]] QString lines(const inspection& found);
 
 /// What the engine finds broken in the file itself, a line each; empty when all is well.
-[[nodiscard]] QStringList integrity_faults(SqliteDatabase& database);
+[[nodiscard]] QStringList integrity_faults(physical_database& database);

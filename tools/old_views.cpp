@@ -3,10 +3,9 @@
 
 #include "tools/old_views.h"
 
-#include "platform/sqlite_database.h"
+#include "platform/database/transaction.h"
 #include "tools/console.h"
 #include "tools/losses.h"
-#include "tools/query.h"
 
 #include <QStringList>
 
@@ -29,13 +28,13 @@ QString old_views::waiting_place(const QString& table) {
     return u"temp.old_"_s + table;
 }
 
-void old_views::make_waiting_places(SqliteDatabase& database) {
+void old_views::make_waiting_places(physical_database& database) {
     for (const QString& table : tables()) {
         database.execute(u"CREATE TEMP TABLE old_%1 AS SELECT * FROM %1 WHERE 0"_s.arg(table));
     }
 }
 
-void old_views::put_in_place(SqliteDatabase& database, losses& lost) {
+void old_views::put_in_place(physical_database& database, losses& lost) {
     database.execute(
         u"CREATE TEMP TABLE useless_viewitems AS SELECT rowid AS number, ViewNo AS view, 'shows passwords, which no list does' AS reason FROM old_viewitems WHERE trim(keyword) = 'password' COLLATE NOCASE"_s);
     database.execute(
@@ -50,12 +49,11 @@ void old_views::put_in_place(SqliteDatabase& database, losses& lost) {
         u"DELETE FROM old_viewitems WHERE rowid IN (SELECT number FROM useless_viewitems)"_s);
     for (const QString& table : tables()) {
         for (const QStringList& row :
-             query_rows(database, u"SELECT number, view, reason FROM useless_%1"_s.arg(table))) {
+             database.texts(u"SELECT number, view, reason FROM useless_%1"_s.arg(table))) {
             lost.add(table, u"%1 %2"_s.arg(shown(row.at(1)), row.at(2)), row.at(0).toLongLong());
         }
         const QString columns =
-            query_column(database,
-                         u"SELECT name FROM pragma_table_info('%1') WHERE pk = 0"_s.arg(table))
+            database.column(u"SELECT name FROM pragma_table_info('%1') WHERE pk = 0"_s.arg(table))
                 .join(u", "_s);
         database.execute(
             u"DELETE FROM %1 WHERE ViewNo IN (SELECT ViewNo FROM old_viewdef)"_s.arg(table));
@@ -64,6 +62,6 @@ void old_views::put_in_place(SqliteDatabase& database, losses& lost) {
     }
 }
 
-qint64 old_views::carried_rows(SqliteDatabase& database, const QString& table) {
-    return query_number(database, u"SELECT count(*) FROM old_%1"_s.arg(table));
+qint64 old_views::carried_rows(physical_database& database, const QString& table) {
+    return database.number(u"SELECT count(*) FROM old_%1"_s.arg(table));
 }

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-class SqliteDatabase;
+class physical_database;
 class losses;
 
 /// The definitions of lists that an old database holds. They wait in tables of their own until it
@@ -19,14 +19,14 @@ namespace old_views {
 [[nodiscard]] QString waiting_place(const QString& table);
 
 /// Makes both waiting places, empty.
-void make_waiting_places(SqliteDatabase& database);
+void make_waiting_places(physical_database& database);
 
 /// Puts those definitions in the delivered ones' place that define a list of this system and have
 /// a column at least; the others are lost, and so is a column of passwords. How many rows of
 /// `table` are then the old ones' is told by `carried_rows`.
-void put_in_place(SqliteDatabase& database, losses& lost);
+void put_in_place(physical_database& database, losses& lost);
 
 /// After put_in_place: how many rows of `table` come from the old database.
-[[nodiscard]] qint64 carried_rows(SqliteDatabase& database, const QString& table);
+[[nodiscard]] qint64 carried_rows(physical_database& database, const QString& table);
 
 } // namespace old_views

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "platform/sqlite_database.h"
+#include "platform/database/transaction.h"
 #include "tools/closing_up.h"
 #include "tools/command.h"
 #include "tools/console.h"
@@ -28,13 +28,13 @@ Exit status: 0 done; 2 not done, and every number is as it was.
 
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().first();
-    SqliteDatabase database(file, SqliteDatabase::Mode::existing, 0);
-    closing_up::keep_to_oneself(database, file);
-    const QStringList next = closing_up::close_up(database);
-    database.write_ahead();
+    const auto database = open_database(file, physical_database::open_mode::existing, 0);
+    transaction renumbering = closing_up::keep_to_oneself(*database, file);
+    const QStringList next = closing_up::close_up(*database);
+    database->write_ahead();
     conclude(u"next numbers: %1\n"_s.arg(next.join(u", "_s)),
-             [&database] { database.execute(u"COMMIT"_s); });
-    closing_up::shrink(database);
+             [&renumbering] { renumbering.commit(); });
+    closing_up::shrink(*database);
     return exit_status::clean;
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/data_error.h"
-#include "platform/sole_use.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/sole_use.h"
+#include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/database_copy.h"
@@ -51,7 +51,7 @@ void fold_log_of(const QString& place) {
         return;
     }
     try {
-        SqliteDatabase(place, SqliteDatabase::Mode::existing, 0).fold_log();
+        open_database(place, physical_database::open_mode::existing, 0)->rest();
     } catch (const DataError&) { // NOLINT(bugprone-empty-catch): then both are kept as they are
     }
 }

@@ -4,7 +4,7 @@
 #include "tools/stored_numbers.h"
 
 #include "data/dialled_number.h"
-#include "tools/query.h"
+#include "platform/database/physical_database.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,9 +20,9 @@ const QList<number_column>& number_columns() {
     return all;
 }
 
-QList<stored_number> untidy_numbers(SqliteDatabase& database, const number_column& column) {
+QList<stored_number> untidy_numbers(physical_database& database, const number_column& column) {
     QList<stored_number> found;
-    for (const QStringList& row : query_rows(database, column.query)) {
+    for (const QStringList& row : database.texts(column.query)) {
         const QString dialled = dialled_number(row.at(1));
         if (dialled != row.at(1)) {
             found.append({row.at(0).toLongLong(), row.at(1), dialled});

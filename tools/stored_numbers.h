@@ -6,7 +6,7 @@
 #include <QList>
 #include <QString>
 
-class SqliteDatabase;
+class physical_database;
 
 /// A telephone number in a database, as it stands there and as it is dialled.
 struct stored_number {
@@ -27,5 +27,5 @@ struct number_column {
 [[nodiscard]] const QList<number_column>& number_columns();
 
 /// The numbers in that column that are not as they are dialled. Throws DataError.
-[[nodiscard]] QList<stored_number> untidy_numbers(SqliteDatabase& database,
+[[nodiscard]] QList<stored_number> untidy_numbers(physical_database& database,
                                                   const number_column& column);

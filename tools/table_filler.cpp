@@ -4,7 +4,6 @@
 #include "tools/table_filler.h"
 
 #include "tools/inspection.h"
-#include "tools/query.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,13 +26,12 @@ int fallback(const QString& column) {
 
 } // namespace
 
-table_filler::table_filler(SqliteDatabase& database, losses& lost, const QString& table,
+table_filler::table_filler(physical_database& database, losses& lost, const QString& table,
                            const QString& target, const QStringList& old_columns)
     : lost_(lost), table_(table) {
     QSet<qsizetype> used;
     QStringList names;
-    for (const QStringList& row : query_rows(
-             database,
+    for (const QStringList& row : database.texts(
              u"SELECT name, type, pk, \"notnull\" FROM pragma_table_info('%1')"_s.arg(table))) {
         column wanted{row.at(0), content_of(row.at(0), row.at(1)), row.at(2) != u"0",
                       row.at(3) != u"0"};

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/bound_statement.h"
+#include "platform/database/bound_statement.h"
 #include "tools/losses.h"
 #include "tools/old_values.h"
 
@@ -18,7 +18,7 @@ class table_filler {
 public:
     /// `old_columns` are matched by name without regard to case. The rows go into the table
     /// `target`, which has the columns of `table`.
-    table_filler(SqliteDatabase& database, losses& lost, const QString& table,
+    table_filler(physical_database& database, losses& lost, const QString& table,
                  const QString& target, const QStringList& old_columns);
 
     /// Puts a row in, or tells why not. Throws DataError.

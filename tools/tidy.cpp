@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "platform/bound_statement.h"
-#include "platform/sqlite_database.h"
+#include "platform/database/bound_statement.h"
+#include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
-#include "tools/query.h"
 #include "tools/references.h"
 #include "tools/stored_numbers.h"
 
@@ -32,17 +31,16 @@ Exit status: 0 done, or nothing to do; 2 nothing done.
 )";
 
 /// Takes out what nothing shows any more; returns what that was, a line each.
-QString remove_leftovers(SqliteDatabase& database) {
+QString remove_leftovers(physical_database& database) {
     QString told;
     for (const reference& checked : references()) {
         if (checked.dangling != reference::Dangling::leftover) {
             continue;
         }
         const QString condition = dangles(checked);
-        for (const QStringList& row :
-             query_rows(database,
-                        u"SELECT rowid, ifnull(%1, 'Null') FROM %2 WHERE %3 ORDER BY rowid"_s.arg(
-                            checked.column, checked.table, condition))) {
+        for (const QStringList& row : database.texts(
+                 u"SELECT rowid, ifnull(%1, 'Null') FROM %2 WHERE %3 ORDER BY rowid"_s.arg(
+                     checked.column, checked.table, condition))) {
             told += u"%1 %2: taken out: there is no %3 %4\n"_s.arg(checked.table, row.at(0),
                                                                    checked.target, row.at(1));
         }
@@ -52,7 +50,7 @@ QString remove_leftovers(SqliteDatabase& database) {
 }
 
 /// Puts every number into the form in which it is dialled; returns what changed, a line each.
-QString mend_numbers(SqliteDatabase& database) {
+QString mend_numbers(physical_database& database) {
     QString told;
     for (const number_column& column : number_columns()) {
         bound_statement change(
@@ -73,14 +71,17 @@ QString mend_numbers(SqliteDatabase& database) {
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().first();
     const bool is_trial = arguments.isSet(u"dry-run"_s);
-    SqliteDatabase database(file);
-    database.execute(u"BEGIN IMMEDIATE"_s);
+    const auto database = open_database(file);
+    transaction tidying(*database);
     const QString told =
-        arguments.isSet(u"numbers"_s) ? mend_numbers(database) : remove_leftovers(database);
-    database.write_ahead();
+        arguments.isSet(u"numbers"_s) ? mend_numbers(*database) : remove_leftovers(*database);
+    database->write_ahead();
     const QString head = is_trial ? u"dry run, nothing is changed:\n"_s : QString();
-    conclude(head + (told.isEmpty() ? u"nothing to tidy\n"_s : told),
-             [&] { database.execute(is_trial ? u"ROLLBACK"_s : u"COMMIT"_s); });
+    conclude(head + (told.isEmpty() ? u"nothing to tidy\n"_s : told), [&] {
+        if (!is_trial) {
+            tidying.commit();
+        }
+    });
     return exit_status::clean;
 }
 

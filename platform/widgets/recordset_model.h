@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include "platform/database/recordset.h"
 #include "platform/display_format.h"
-#include "platform/recordset.h"
 
 #include <QAbstractTableModel>
 #include <QList>

@@ -12,7 +12,7 @@
 #include "data/dialled_number.h"
 #include "data/schema.h"
 #include "data/strconn.h"
-#include "platform/connection_pool.h"
+#include "platform/database/connection_pool.h"
 #include "tests/support/error_of.h"
 #include "tests/support/test_database.h"
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/bound_statement.h"
-#include "platform/connection_pool.h"
+#include "platform/database/connection_pool.h"
+#include "platform/database/physical_database.h"
 #include "tests/support/test_database.h"
 
 #include <QProcess>
@@ -108,7 +108,8 @@ public:
         } else if (name == "gateway stands still") {
             gateway_->signal(begins ? SIGSTOP : SIGCONT);
         } else if (begins) {
-            other_.emplace(path()).execute_script("BEGIN IMMEDIATE");
+            other_ = open_database(path());
+            other_->begin(physical_database::purpose::writing);
         } else {
             other_.reset();
         }
@@ -134,7 +135,7 @@ public:
     [[nodiscard]] int repeated() {
         const auto again =
             QStringLiteral("SELECT count(*) - count(DISTINCT message) FROM simulated");
-        return static_cast<int>(received_ - texts_.size() + number_in_store(again));
+        return static_cast<int>(received_ - texts_.size() + store().number(again));
     }
     /// Texts that the gateway took and nobody wrote.
     [[nodiscard]] int garbled() const { return garbled_; }
@@ -171,25 +172,20 @@ private:
         return QTest::qWaitFor(reached, 10 * process::watchdog_ms);
     }
 
-    SqliteDatabase& store() {
+    physical_database& store() {
         if (!store_) {
-            store_.emplace(state_ + QStringLiteral("/relay.db"));
+            store_ = open_database(state_ + QStringLiteral("/relay.db"));
         }
         return *store_;
     }
-    qint64 number_in_store(const QString& sql) {
-        bound_statement statement(store(), sql);
-        return statement.next() ? statement.integer(0) : 0;
-    }
 
     void read_store() {
-        bound_statement rows(
-            store(), QStringLiteral("SELECT id, text FROM message WHERE id > ? ORDER BY id"));
-        rows.start({last_id_});
-        while (rows.next()) {
-            last_id_ = rows.integer(0);
+        const RowStore rows = store().rows(
+            QStringLiteral("SELECT id, text FROM message WHERE id > ? ORDER BY id"), {last_id_});
+        for (qsizetype row = 0; row < rows.rows(); ++row) {
+            last_id_ = rows.integer(row, 0);
             ++received_;
-            const QString text = rows.text(1);
+            const QString text = rows.text(row, 1);
             texts_.insert(text);
             garbled_ += text.toInt() >= 1 && text.toInt() <= messages_ ? 0 : 1;
         }
@@ -205,8 +201,8 @@ private:
     int garbled_ = 0;
     QSet<QString> texts_;
     const QString state_ = folder() + QStringLiteral("/gateway");
-    std::optional<SqliteDatabase> store_;
+    std::unique_ptr<physical_database> store_;
     std::unique_ptr<process> gateway_;
     int port_ = 20'000 + static_cast<int>(QCoreApplication::applicationPid() % 12'000);
-    std::optional<SqliteDatabase> other_;
+    std::unique_ptr<physical_database> other_;
 };

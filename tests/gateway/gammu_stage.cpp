@@ -3,7 +3,7 @@
 
 #include "tests/gateway/gammu_stage.h"
 
-#include "platform/sqlite_database.h"
+#include "platform/database/sqlite_database.h"
 
 #include <QFile>
 
@@ -56,8 +56,8 @@ gammu_stage::gammu_stage() {
     if (!tables.open(QIODevice::ReadOnly)) {
         qFatal("gammu-smsd's tables are not installed: %s", qPrintable(tables.fileName()));
     }
-    SqliteDatabase(settings.database, SqliteDatabase::Mode::create)
-        .execute_script(("BEGIN;" + tables.readAll() + "COMMIT").constData());
+    open_database(settings.database, physical_database::open_mode::create)
+        ->execute_script(("BEGIN;" + tables.readAll() + "COMMIT").constData());
     QDir().mkpath(path(u"phone/sms/1"_s));
     write(path(u"smsdrc"_s), daemon_settings(folder_.path()));
     daemon_.setStandardErrorFile(path(u"log"_s));

@@ -144,13 +144,12 @@ private slots:
 
     void keeps_nothing_it_cannot_write() {
         act(u"a>x"_s);
-        SqliteDatabase other(gateway::store::path_in(folder_->path()),
-                             SqliteDatabase::Mode::existing);
+        const auto other = open_database(gateway::store::path_in(folder_->path()));
         store_->database().execute_script("PRAGMA busy_timeout=0");
-        other.execute_script("BEGIN IMMEDIATE");
+        other->begin(physical_database::purpose::writing);
         act(u"a>y"_s);
         QCOMPARE(client(u"a"_s).answers(), u"12"_s);
-        other.execute_script("ROLLBACK");
+        other->rollback();
         act(u"a>y"_s);
         QCOMPARE(client(u"a"_s).answers(), u"121"_s);
     }
@@ -229,10 +228,10 @@ private slots:
 
     void searches_by_index() {
         QFETCH(QString, where);
-        bound_statement plan(store_->database(), u"EXPLAIN QUERY PLAN SELECT * FROM "_s + where);
-        while (plan.next()) {
-            QVERIFY2(plan.text(3).contains(u"INDEX") && !plan.text(3).contains(u"TEMP B-TREE"),
-                     qPrintable(plan.text(3)));
+        for (const QStringList& step :
+             store_->database().texts(u"EXPLAIN QUERY PLAN SELECT * FROM "_s + where)) {
+            QVERIFY2(step.at(3).contains(u"INDEX") && !step.at(3).contains(u"TEMP B-TREE"),
+                     qPrintable(step.at(3)));
         }
     }
 };

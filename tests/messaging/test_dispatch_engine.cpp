@@ -7,7 +7,7 @@
 #include "data/strconn.h"
 #include "messaging/dispatch_engine.h"
 #include "messaging/gateway_frame.h"
-#include "platform/exclusive_lease.h"
+#include "platform/database/exclusive_lease.h"
 #include "tests/messaging/scripted_gateway.h"
 #include "tests/support/test_database.h"
 

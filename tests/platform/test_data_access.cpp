@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "platform/connection_pool.h"
-#include "platform/exclusive_lease.h"
-#include "platform/recordset.h"
+#include "platform/database/connection_pool.h"
+#include "platform/database/exclusive_lease.h"
+#include "platform/database/recordset.h"
 #include "tests/support/error_of.h"
 
 #include <QCoreApplication>
@@ -26,7 +26,7 @@ class test_data_access : public QObject {
     QString path_ = folder_.filePath(u"a; b.mdb"_s);
 
     static void make_people(const QString& path) {
-        SqliteDatabase(path, SqliteDatabase::Mode::create).execute_script(R"sql(
+        open_database(path, physical_database::open_mode::create)->execute_script(R"sql(
 CREATE TABLE people (id INTEGER PRIMARY KEY, name, born, score REAL, note TEXT DEFAULT 'new');
 INSERT INTO people VALUES (1, '王五', '2024/01/31 08:00:00', 10, 'it'),
     (2, 'bob', '1999-12-31 00:00:00', 9, '7'), (3, '李四', NULL, NULL, ''),
@@ -115,11 +115,13 @@ private slots:
         Connection connection;
         connection.ConnectionString = connection_;
         connection.Open();
-        connection.BeginTrans();
-        connection.Execute(u"delete from people"_s);
-        QCOMPARE(error_of([this] { run(u"delete from people"_s); }), Kind::locked);
+        {
+            const transaction undone(connection.database());
+            connection.Execute(u"delete from people"_s);
+            QCOMPARE(error_of([this] { run(u"delete from people"_s); }), Kind::locked);
+            QCOMPARE(run(u"select id from people"_s), u"1 2 3 4 10"_s);
+        }
         QCOMPARE(run(u"select id from people"_s), u"1 2 3 4 10"_s);
-        connection.Close();
         run(u"delete from people where id=1"_s); // on the same physical connection
         QCOMPARE(run(u"select id from people"_s), u"2 3 4 10"_s);
     }
@@ -136,7 +138,7 @@ private slots:
 
     void another_program_does_not_take_the_log_away() {
         run(u"delete from people where id=1"_s);
-        const SqliteDatabase second(path_); // must leave the locks of the first alone
+        const auto second = open_database(path_); // must leave the locks of the first alone
         QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(), {u"--visit"_s, path_}),
                  0);
         QVERIFY(QFile::exists(path_ + u"-wal"_s));
@@ -178,7 +180,7 @@ int main(int argc, char* argv[]) {
     QCoreApplication app(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == u"--visit") { // plays another program that uses the file
-        SqliteDatabase(arguments.value(2)).execute(u"select * from people"_s);
+        open_database(arguments.value(2))->execute(u"select * from people"_s);
         return 0;
     }
     if (arguments.value(1) == u"--lease") { // asks for the lease twice

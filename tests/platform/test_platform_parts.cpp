@@ -63,7 +63,7 @@ private slots:
         socket.RemotePort = server.serverPort();
         socket.Connect();
         QTRY_COMPARE(socket.State(), Winsock::StateEnum::connected);
-        probe_server(u"Data Source=0.0.0.0,%1"_s.arg(server.serverPort()));
+        probe_server(u"0.0.0.0,%1"_s.arg(server.serverPort()));
         QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
     }
 };

@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "listview/grid_columns.h"
 #include "listview/frmFind.h"
 #include "listview/frmSetList.h"
 #include "listview/frmSort.h"
 #include "listview/frmconduser.h"
 #include "listview/frmref.h"
-#include "listview/view_definition.h"
+#include "data/view_definition.h"
 #include "operators/vc_users.h"
 #include "tests/screens/screen_fixture.h"
 

@@ -5,8 +5,8 @@
 
 #include "data/schema.h"
 #include "data/strconn.h"
-#include "platform/connection_pool.h"
-#include "platform/recordset.h"
+#include "platform/database/connection_pool.h"
+#include "platform/database/recordset.h"
 
 #include <QSettings>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "platform/connection_pool.h"
+#include "platform/database/connection_pool.h"
 #include "tests/tools/smsdb_shell.h"
 #include "tools/old_values.h"
 #include "tools/table_filler.h"
@@ -152,10 +152,10 @@ private slots:
     }
 
     void takes_a_key_as_it_is_written() {
-        SqliteDatabase database({}, SqliteDatabase::Mode::memory);
-        database.execute_script("create table smsmodels (mid integer primary key, text)");
+        const auto database = open_database({}, physical_database::open_mode::memory);
+        database->execute_script("create table smsmodels (mid integer primary key, text)");
         losses lost;
-        table_filler filler(database, lost, u"smsmodels"_s, u"smsmodels"_s, {u"mid"_s, u"text"_s});
+        table_filler filler(*database, lost, u"smsmodels"_s, u"smsmodels"_s, {u"mid"_s, u"text"_s});
         for (const QJsonValue& key :
              {QJsonValue(u"5"_s), QJsonValue(5), QJsonValue(u"70000"_s), QJsonValue(u"x"_s)}) {
             filler.take({key, u"a"_s});

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "data/strconn.h"
-#include "platform/connection.h"
-#include "platform/connection_pool.h"
+#include "platform/database/connection.h"
+#include "platform/database/connection_pool.h"
 #include "tests/tools/smsdb_shell.h"
 
 #include <QTest>
@@ -125,10 +125,10 @@ private slots:
         Connection writing;
         writing.ConnectionString = strconn;
         writing.Open();
-        writing.BeginTrans();
+        transaction half_way(writing.database());
         writing.Execute(u"update customer set cname='later'"_s);
         QCOMPARE(run(u"mkdir '%1'; smsdb backup FILE "_s.arg(folder) + copy), 0);
-        writing.CommitTrans();
+        half_way.commit();
         QCOMPARE(run(u"smsdb backup FILE "_s + copy), 2);
         QCOMPARE(run(u"ls -A '%1'; stat -c %a "_s.arg(folder) + copy), 0);
         QCOMPARE(told_, "sms.old.mdb\n600\n"_qba);

@@ -3,7 +3,7 @@
 
 #include "app/frmMain.h"
 #include "listview/frmdatagrid.h"
-#include "platform/bound_statement.h"
+#include "platform/database/physical_database.h"
 #include "platform/widgets/data_grid.h"
 #include "tests/support/test_database.h"
 #include "tests/tour/chapters.h"
@@ -101,11 +101,9 @@ void send_and_receive(frmMain& window, QProcess& gateway) {
     tour::read_a_message(window, u"你好"_s);
     press(window, u"Exit"_s);
     // A client that goes before would get it again at its next start.
-    SqliteDatabase kept(gateway.arguments().at(1) + u"/relay.db"_s);
-    bound_statement unread(kept, u"SELECT count(*) FROM received WHERE confirmed_at IS NULL"_s);
-    guide::wait_for(u"the gateway to know that it was read"_s, [&unread] {
-        unread.start({});
-        return unread.next() && unread.integer(0) == 0;
+    const auto kept = open_database(gateway.arguments().at(1) + u"/relay.db"_s);
+    guide::wait_for(u"the gateway to know that it was read"_s, [&kept] {
+        return kept->number(u"SELECT count(*) FROM received WHERE confirmed_at IS NULL"_s) == 0;
     });
 }
 

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The smscrm authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+class DataGrid;
+class spListHeaders;
+
+/// Rebuilds the grid's columns from the view definition; passwords stay hidden in any case.
+void apply_view(const spListHeaders& headers, DataGrid& grid);
+
+/// Takes over the widths that the grid's columns have been given; a hidden one keeps its own.
+void take_widths(spListHeaders& headers, const DataGrid& grid);
