@@ -4,8 +4,8 @@
 #include "app/error_report.h"
 
 #include "data/strconn.h"
-#include "platform/database/connection_string.h"
 #include "platform/data_error.h"
+#include "platform/database/connection_string.h"
 #include "platform/widgets/msgbox.h"
 
 using namespace Qt::StringLiterals;

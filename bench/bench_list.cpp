@@ -67,7 +67,7 @@ private:
     }
 
     static double painted_after(const std::function<void()>& command) {
-        paint_watch watch("DataGrid");
+        paint_watch watch("data_grid");
         return milliseconds([&] {
             command();
             watch.wait();
@@ -76,7 +76,7 @@ private:
 
     /// From the click on the dialog's button on.
     double confirmed(const QString& command, const std::function<void(QWidget&)>& fill) {
-        paint_watch watch("DataGrid");
+        paint_watch watch("data_grid");
         QElapsedTimer time;
         QTimer::singleShot(0, [&] {
             QWidget* dialog = QApplication::activeModalWidget();

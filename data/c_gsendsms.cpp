@@ -89,7 +89,7 @@ void c_gsendsms::expand(Connection& connection, const m_gsendsms& send,
     const QString text = u',' + literal(send.sms) + u',';
     const QString after =
         u",0,-1,%1,%2,%3)"_s.arg(literal(send.imsend), literal(send.rtime), literal(send.stime));
-    const RowStore& rows = addressees.store();
+    const row_store& rows = addressees.store();
     for (qsizetype row = 0; row < rows.rows(); ++row) {
         if (report && row % report_interval == 0) {
             report(row);

@@ -19,7 +19,7 @@ void c_sendsms::searchsms(m_sendsmses& queue) const {
     open_detached(rs, u"SELECT  * From vwsendsms where sendisok=0 and stime < #%1#"_s.arg(
                           fmtdatetime(moment)));
     // By position: this runs over every pending message at every poll.
-    const RowStore& rows = rs.store();
+    const row_store& rows = rs.store();
     const qsizetype id = rs.column(u"smsid");
     const qsizetype mobile = rs.column(u"mobile");
     const qsizetype sms = rs.column(u"sms");

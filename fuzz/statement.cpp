@@ -60,7 +60,7 @@ void check_single(const QString& statement) {
 }
 
 void check_value(const QString& text) {
-    const RowStore rows =
+    const row_store rows =
         database().rows(u"select #2024/01/31#, %1, '#'"_s.arg(text_literal(text)));
     expect(rows.rows() == 1 && rows.columns().size() == 3, "the statement is what it was");
     expect(rows.utf8(0, 1) == text.toUtf8(), "the value comes back as it was");

@@ -32,7 +32,7 @@ dispatch_rows::dispatch_rows(store& file)
                              "(?1, ?2, ?3, ?4, ?5)"_s) {}
 
 QList<message_row> dispatch_rows::read(bound_statement& rows, const QVariantList& values) {
-    const RowStore read = rows.rows(values);
+    const row_store read = rows.rows(values);
     QList<message_row> found;
     for (qsizetype row = 0; row < read.rows(); ++row) {
         found.append({.id = read.integer(row, 0),
@@ -56,9 +56,9 @@ QList<message_row> dispatch_rows::unknown_until(qint64 now, int most) {
 
 std::optional<qint64> dispatch_rows::next_moment() {
     std::optional<qint64> earliest;
-    const RowStore moments = next_.rows();
+    const row_store moments = next_.rows();
     for (qsizetype row = 0; row < moments.rows(); ++row) {
-        if (moments.type(row, 0) != RowStore::Type::null) {
+        if (moments.type(row, 0) != row_store::Type::null) {
             earliest =
                 std::min(earliest.value_or(moments.integer(row, 0)), moments.integer(row, 0));
         }

@@ -32,7 +32,7 @@ message_id intake_rows::insert(const taken_message& message, qint64 now) {
 }
 
 std::optional<message_id> intake_rows::find_open(const taken_message& message, qint64 after) {
-    const RowStore found = find_open_.rows({message.client, message.digest, after});
+    const row_store found = find_open_.rows({message.client, message.digest, after});
     return found.rows() == 0 ? std::nullopt : std::optional(found.integer(0, 0));
 }
 

@@ -24,7 +24,7 @@ QString time_text(qint64 milliseconds) {
     return QDateTime::fromMSecsSinceEpoch(milliseconds).toString(Qt::ISODateWithMs);
 }
 
-QString as_json(const RowStore& rows, qsizetype row) {
+QString as_json(const row_store& rows, qsizetype row) {
     const QJsonObject line{
         {u"id"_s, rows.integer(row, 0)},       {u"time"_s, time_text(rows.integer(row, 1))},
         {u"state"_s, rows.text(row, 2)},       {u"number"_s, rows.text(row, 3)},
@@ -34,7 +34,7 @@ QString as_json(const RowStore& rows, qsizetype row) {
     return QString::fromUtf8(QJsonDocument(line).toJson(QJsonDocument::Compact));
 }
 
-QString as_line(const RowStore& rows, qsizetype row) {
+QString as_line(const row_store& rows, qsizetype row) {
     QString text = rows.text(row, 4);
     return u"%1  %2  %3  %4  %5"_s.arg(rows.text(row, 0), time_text(rows.integer(row, 1)),
                                        rows.text(row, 2), rows.text(row, 3),
@@ -46,7 +46,7 @@ QString as_line(const RowStore& rows, qsizetype row) {
 int list_messages(const options& wanted) {
     try {
         store file(wanted.values.gateway.state_dir, store::user::reader);
-        const RowStore rows = file.database().rows(
+        const row_store rows = file.database().rows(
             u"SELECT id, taken_at, state, number, text, coalesce(reason, ''), absorbed, attempts FROM message WHERE ?1 IN ('', state) ORDER BY id"_s,
             {wanted.state});
         for (qsizetype row = 0; row < rows.rows(); ++row) {

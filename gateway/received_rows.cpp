@@ -47,7 +47,7 @@ bool received_rows::insert(const incoming_part& part, qint64 now) {
 }
 
 bool received_rows::give_up_parts(qint64 taken_before) {
-    const RowStore old = old_parts_.rows({taken_before});
+    const row_store old = old_parts_.rows({taken_before});
     return old.rows() > 0 && join({old.text(0, 0), old.integer(0, 1), old.integer(0, 2)}, 1);
 }
 
@@ -59,7 +59,7 @@ bool received_rows::join(const QVariantList& group, int least) {
     };
     // References come again: of two parts with one number the newer belongs to what came last.
     QMap<int, part> parts;
-    const RowStore stored = parts_.rows(group);
+    const row_store stored = parts_.rows(group);
     for (qsizetype row = 0; row < stored.rows(); ++row) {
         parts.insert(static_cast<int>(stored.integer(row, 0)),
                      {stored.text(row, 1), stored.integer(row, 2), stored.text(row, 3)});
@@ -80,7 +80,7 @@ bool received_rows::join(const QVariantList& group, int least) {
 }
 
 std::optional<waiting_message> received_rows::waiting_after(qint64 id) {
-    const RowStore found = waiting_.rows({id});
+    const row_store found = waiting_.rows({id});
     if (found.rows() == 0) {
         return std::nullopt;
     }

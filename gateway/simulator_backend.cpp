@@ -135,7 +135,7 @@ void simulator_backend::report_later(const outgoing_message& message) {
 void simulator_backend::ask(message_id id) {
     QString outcome = u"not now"_s; // what is not in the table has never come
     try_store([&] {
-        const RowStore found = find_->rows({id});
+        const row_store found = find_->rows({id});
         if (found.rows() > 0) {
             outcome = found.text(0, 0);
         }

@@ -3,8 +3,8 @@
 
 #include "listview/column_chooser.h"
 
-#include "listview/dialog_buttons.h"
 #include "data/spListHeaders.h"
+#include "listview/dialog_buttons.h"
 #include "platform/widgets/msgbox.h"
 
 #include <QComboBox>

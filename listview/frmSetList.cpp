@@ -3,8 +3,8 @@
 
 #include "listview/frmSetList.h"
 
-#include "listview/dialog_buttons.h"
 #include "data/spListHeaders.h"
+#include "listview/dialog_buttons.h"
 #include "listview/grid_columns.h"
 #include "platform/guarded.h"
 #include "platform/widgets/data_grid.h"
@@ -40,7 +40,7 @@ spListHeaders editor_columns() {
 } // namespace
 
 frmSetList::frmSetList(spListHeaders& headers, QWidget* parent)
-    : QDialog(parent), headers_(headers), MSHFlexGrid1(new DataGrid(this)) {
+    : QDialog(parent), headers_(headers), MSHFlexGrid1(new data_grid(this)) {
     setWindowTitle(u"列表设置"_s);
     MSHFlexGrid1->setObjectName(u"MSHFlexGrid1"_s);
     MSHFlexGrid1->setAccessibleName(windowTitle());
@@ -58,7 +58,7 @@ frmSetList::frmSetList(spListHeaders& headers, QWidget* parent)
     buttons.cancel->setObjectName(u"cmdCancel"_s);
 
     fill();
-    connect(MSHFlexGrid1, &DataGrid::toggled, this, guarded([this] { toggle(); }));
+    connect(MSHFlexGrid1, &data_grid::toggled, this, guarded([this] { toggle(); }));
     connect(buttons.ok, &QPushButton::clicked, this, guarded([this] { confirm(); }));
     resize(fontMetrics().averageCharWidth() * 70, fontMetrics().height() * 22);
 }

@@ -7,7 +7,7 @@
 
 #include <QDialog>
 
-class DataGrid;
+class data_grid;
 class QBoxLayout;
 class spListHeaders;
 
@@ -35,5 +35,5 @@ private:
 
     spListHeaders& headers_;
     Recordset rows_; ///< a row a column of the view, in memory
-    DataGrid* MSHFlexGrid1;
+    data_grid* MSHFlexGrid1;
 };

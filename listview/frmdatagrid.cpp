@@ -5,15 +5,15 @@
 
 #include "data/fmtdatetime.h"
 #include "data/strconn.h"
+#include "data/view_definition.h"
 #include "listview/frmSetList.h"
 #include "listview/frmSort.h"
 #include "listview/frmconduser.h"
+#include "listview/grid_columns.h"
 #include "listview/list_menu.h"
 #include "listview/row_dialog.h"
 #include "listview/row_export.h"
 #include "listview/vc_in.h"
-#include "data/view_definition.h"
-#include "listview/grid_columns.h"
 #include "platform/conversion.h"
 #include "platform/data_error.h"
 #include "platform/guarded.h"
@@ -37,7 +37,7 @@ frmdatagrid::frmdatagrid(vc_in& controller, QString view_no, QWidget* parent)
       controller_(controller),
       view_no_(std::move(view_no)),
       Toolbar1(new QToolBar(this)),
-      DataGrid1(new DataGrid(this)),
+      DataGrid1(new data_grid(this)),
       rows_(*DataGrid1, controller.getidstring()) {
     Toolbar1->setObjectName(u"Toolbar1"_s);
     Toolbar1->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
@@ -58,9 +58,9 @@ frmdatagrid::frmdatagrid(vc_in& controller, QString view_no, QWidget* parent)
     DataGrid1->set_sortable();
     connect(Toolbar1, &QToolBar::actionTriggered, this,
             guarded([this](QAction* action) { press(action->objectName()); }));
-    connect(DataGrid1, &DataGrid::opened, this, guarded([this] { open_row(); }));
-    connect(DataGrid1, &DataGrid::failed, this, guarded([this] { tell_unreadable(); }));
-    connect(DataGrid1, &DataGrid::row_changed, this, [this] { note({}); });
+    connect(DataGrid1, &data_grid::opened, this, guarded([this] { open_row(); }));
+    connect(DataGrid1, &data_grid::failed, this, guarded([this] { tell_unreadable(); }));
+    connect(DataGrid1, &data_grid::row_changed, this, [this] { note({}); });
 }
 
 void frmdatagrid::showEvent(QShowEvent* event) {

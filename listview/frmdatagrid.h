@@ -14,7 +14,7 @@
 #include <functional>
 #include <optional>
 
-class DataGrid;
+class data_grid;
 class QMdiArea;
 class QToolBar;
 class vc_in;
@@ -99,7 +99,7 @@ private:
     operation_condition condition_; ///< of the operation log alone
     image_list imlToolbarIcons;
     QToolBar* Toolbar1;
-    DataGrid* DataGrid1;
+    data_grid* DataGrid1;
     list_rows rows_;
 };
 

@@ -4,8 +4,8 @@
 #include "listview/frmref.h"
 
 #include "listview/dialog_buttons.h"
-#include "listview/vc_in.h"
 #include "listview/grid_columns.h"
+#include "listview/vc_in.h"
 #include "platform/database/recordset.h"
 #include "platform/guarded.h"
 #include "platform/widgets/data_grid.h"
@@ -28,7 +28,7 @@ frmref::frmref(spListHeaders& columns, Recordset& rows, QWidget* parent)
       columns_(columns),
       rows_(rows),
       txtFind(new QLineEdit(this)),
-      DataGrid1(new DataGrid(this)),
+      DataGrid1(new data_grid(this)),
       lblFind(new QLabel(u"没有找到"_s, this)) {
     setWindowTitle(columns.vName);
     DataGrid1->setObjectName(u"DataGrid1"_s);
@@ -69,7 +69,7 @@ void frmref::add_search_line(QBoxLayout& layout) {
     txtFind->installEventFilter(this);
     connect(txtFind, &QLineEdit::textChanged, this, guarded([this] { search(0, 1); }));
     // Whoever goes to a row by hand means that one.
-    connect(DataGrid1, &DataGrid::row_changed, this, [this] { tell_found(true); });
+    connect(DataGrid1, &data_grid::row_changed, this, [this] { tell_found(true); });
     connect(DataGrid1, &QAbstractItemView::clicked, this, [this] { tell_found(true); });
 }
 

@@ -7,7 +7,7 @@
 
 #include <QDialog>
 
-class DataGrid;
+class data_grid;
 class QBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -41,7 +41,7 @@ private:
     spListHeaders& columns_;
     Recordset& rows_;
     QLineEdit* txtFind;
-    DataGrid* DataGrid1;
+    data_grid* DataGrid1;
     QLabel* lblFind;
     QPushButton* cmdok;
 };

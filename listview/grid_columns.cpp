@@ -7,7 +7,7 @@
 #include "platform/conversion.h"
 #include "platform/widgets/data_grid.h"
 
-void apply_view(const spListHeaders& headers, DataGrid& grid) {
+void apply_view(const spListHeaders& headers, data_grid& grid) {
     QList<grid_column> columns;
     for (const spListHeader& column : headers) {
         columns.append({.caption = column.caption,
@@ -25,7 +25,7 @@ void apply_view(const spListHeaders& headers, DataGrid& grid) {
     grid.set_columns(columns);
 }
 
-void take_widths(spListHeaders& headers, const DataGrid& grid) {
+void take_widths(spListHeaders& headers, const data_grid& grid) {
     for (const int column : grid.shown_columns()) {
         headers.Item(column + 1).Width = to_int16(QString::number(grid.width_twips(column)));
     }

@@ -39,13 +39,13 @@ constexpr auto order = std::to_array<QStringView>({u"Add",
                                                    u"refresh",
                                                    u"Save"});
 
-QAction* make_separator(DataGrid& grid) {
+QAction* make_separator(data_grid& grid) {
     auto* separator = new QAction(&grid);
     separator->setSeparator(true);
     return separator;
 }
 
-QAction* make_item(DataGrid& grid, const QString& name, const QString& caption,
+QAction* make_item(data_grid& grid, const QString& name, const QString& caption,
                    const QKeySequence& keys, const std::function<void()>& run) {
     auto* item = new QAction(caption, &grid);
     item->setObjectName(name);
@@ -55,7 +55,7 @@ QAction* make_item(DataGrid& grid, const QString& name, const QString& caption,
     return item;
 }
 
-QAction* make_heights(DataGrid& grid) {
+QAction* make_heights(data_grid& grid) {
     auto* menu = new QMenu(u"行高"_s, &grid);
     menu->menuAction()->setObjectName(u"lines"_s);
     auto* heights = new QActionGroup(menu);
@@ -71,7 +71,7 @@ QAction* make_heights(DataGrid& grid) {
     return menu->menuAction();
 }
 
-void copy_marked_row(const DataGrid& grid) {
+void copy_marked_row(const data_grid& grid) {
     if (grid.row() >= 0) {
         QGuiApplication::clipboard()->setText(marked_row_as_line(grid));
     }
@@ -79,7 +79,7 @@ void copy_marked_row(const DataGrid& grid) {
 
 } // namespace
 
-void add_list_menu(DataGrid& grid, const QToolBar& tools, const list_menu_commands& commands) {
+void add_list_menu(data_grid& grid, const QToolBar& tools, const list_menu_commands& commands) {
     QList<QAction*> items = tools.actions();
     items << make_item(grid, u"show_row"_s, u"看全文"_s, {}, commands.show_row)
           << make_item(grid, u"copy"_s, u"复制"_s, QKeySequence::Copy,

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-class DataGrid;
+class data_grid;
 class QToolBar;
 
 /// What the context menu of a list offers beside the tools.
@@ -18,4 +18,4 @@ struct list_menu_commands {
 
 /// Gives the grid its context menu: the tools that work, then these commands, "复制" and the height
 /// of the rows; and the keys of all of them.
-void add_list_menu(DataGrid& grid, const QToolBar& tools, const list_menu_commands& commands);
+void add_list_menu(data_grid& grid, const QToolBar& tools, const list_menu_commands& commands);

@@ -10,7 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-list_rows::list_rows(DataGrid& grid, QString key_column)
+list_rows::list_rows(data_grid& grid, QString key_column)
     : grid_(grid), key_column_(std::move(key_column)) {}
 
 list_rows::~list_rows() {
@@ -19,7 +19,7 @@ list_rows::~list_rows() {
 
 void list_rows::show(Recordset rows) {
     rows.set_Sort(rows_.Sort());
-    const DataGrid::place seen = grid_.seen();
+    const data_grid::place seen = grid_.seen();
     const bool has_key = seen.row >= 0 && rows_.column(key_column_) >= 0;
     const QVariant key = has_key ? rows_.Fields(key_column_) : QVariant();
     grid_.set_recordset(nullptr);
@@ -61,7 +61,7 @@ bool list_rows::find(const search_request& wanted, bool forward) {
 }
 
 qint64 list_rows::highest_key() const {
-    const RowStore& store = rows_.store();
+    const row_store& store = rows_.store();
     const qsizetype column = store.column(key_column_);
     qint64 highest = 0;
     for (qsizetype row = 0; column >= 0 && row < store.rows(); ++row) {

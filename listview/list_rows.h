@@ -5,7 +5,7 @@
 
 #include "platform/database/recordset.h"
 
-class DataGrid;
+class data_grid;
 struct search_request;
 
 /// The rows of a list in the grid that shows them. The record set's cursor stands on the marked
@@ -13,7 +13,7 @@ struct search_request;
 class list_rows {
 public:
     /// `key_column` is the field that tells the rows apart.
-    list_rows(DataGrid& grid, QString key_column);
+    list_rows(data_grid& grid, QString key_column);
     ~list_rows();
     Q_DISABLE_COPY_MOVE(list_rows)
 
@@ -33,7 +33,7 @@ private:
     void restore_mark(const QVariant& key, qsizetype row);
     [[nodiscard]] bool go_to(const QVariant& key);
 
-    DataGrid& grid_;
+    data_grid& grid_;
     QString key_column_;
     Recordset rows_;
 };

@@ -34,7 +34,7 @@ QWidget* make_box(const QString& text, bool of_several_lines) {
 
 } // namespace
 
-row_dialog::row_dialog(const DataGrid& grid, QWidget* parent) : QDialog(parent) {
+row_dialog::row_dialog(const data_grid& grid, QWidget* parent) : QDialog(parent) {
     const QList<int> columns = grid.shown_columns();
     const QStringList captions = grid.captions(columns);
     const QStringList texts = grid.texts(grid.row(), columns);

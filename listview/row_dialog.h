@@ -5,7 +5,7 @@
 
 #include <QDialog>
 
-class DataGrid;
+class data_grid;
 
 /// Shows the marked row of a grid to be read and copied: a box a column, the widest column's of
 /// several lines.
@@ -13,5 +13,5 @@ class row_dialog : public QDialog {
     Q_OBJECT
 
 public:
-    explicit row_dialog(const DataGrid& grid, QWidget* parent = nullptr);
+    explicit row_dialog(const data_grid& grid, QWidget* parent = nullptr);
 };

@@ -29,7 +29,7 @@ QString ask_for_file(const QString& name, QWidget* parent) {
 }
 
 /// Writes beside the file and puts it in its place when all of it is there.
-bool write(QSaveFile& file, const DataGrid& grid) {
+bool write(QSaveFile& file, const data_grid& grid) {
     const bool is_new = !QFileInfo::exists(file.fileName());
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
@@ -47,13 +47,13 @@ bool write(QSaveFile& file, const DataGrid& grid) {
 
 } // namespace
 
-QString marked_row_as_line(const DataGrid& grid) {
+QString marked_row_as_line(const data_grid& grid) {
     static const QRegularExpression breaks(u"[\\t\\r\\n]+"_s);
     QStringList texts = grid.texts(grid.row(), grid.shown_columns());
     return texts.replaceInStrings(breaks, u" "_s).join(u'\t');
 }
 
-QString export_rows(const DataGrid& grid, const QString& name, QWidget* parent) {
+QString export_rows(const data_grid& grid, const QString& name, QWidget* parent) {
     QString path = ask_for_file(name, parent);
     if (path.isEmpty()) {
         return {};

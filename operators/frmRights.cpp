@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void shape_grid(DataGrid& grid, const QString& view_no) {
+void shape_grid(data_grid& grid, const QString& view_no) {
     spListHeaders headers;
     load_view(headers, strconn, view_no);
     apply_view(headers, grid);
@@ -30,11 +30,11 @@ bool on_row(const Recordset& rs) {
     return rs.State() == Recordset::StateEnum::open && !rs.Bof() && !rs.Eof();
 }
 
-DataGrid* add_grid(QGridLayout& layout, int column, const QString& name, const QString& caption) {
+data_grid* add_grid(QGridLayout& layout, int column, const QString& name, const QString& caption) {
     auto* label = new QLabel(caption);
     label->setObjectName(u"Label1"_s);
     layout.addWidget(label, 0, column);
-    auto* grid = new DataGrid;
+    auto* grid = new data_grid;
     grid->setObjectName(name);
     grid->setAccessibleName(caption);
     label->setBuddy(grid);
@@ -58,9 +58,9 @@ frmRights::frmRights(QWidget* parent) : QDialog(parent) {
     dataUsers->set_recordset(&users_);
     dataFuns->set_recordset(&functions_);
     try_step([this] { show_rights_of_current_user(); });
-    connect(dataUsers, &DataGrid::row_changed, this,
+    connect(dataUsers, &data_grid::row_changed, this,
             guarded([this] { show_rights_of_current_user(); }));
-    connect(dataFuns, &DataGrid::toggled, this, guarded([this] { toggle(); }));
+    connect(dataFuns, &data_grid::toggled, this, guarded([this] { toggle(); }));
 }
 
 frmRights::~frmRights() {

@@ -7,7 +7,7 @@
 
 #include <QDialog>
 
-class DataGrid;
+class data_grid;
 
 /// The rights editor: the operators on one side, the functions on the other, each marked when the
 /// operator holds it. A mark is written as it is set; there is nothing to save.
@@ -37,7 +37,7 @@ private:
 
     Recordset users_;
     Recordset functions_; ///< in memory: funid, funName, Selected
-    DataGrid* dataUsers;
-    DataGrid* dataFuns;
+    data_grid* dataUsers;
+    data_grid* dataFuns;
     bool rights_are_known_ = false; ///< the marks are those of the current operator
 };

@@ -37,7 +37,7 @@ QList<QStringView> split_sections(QStringView format) {
 
 } // namespace
 
-DisplayFormat::DisplayFormat(const QString& format) {
+display_format::display_format(const QString& format) {
     if (format.isEmpty()) {
         return;
     }
@@ -46,7 +46,7 @@ DisplayFormat::DisplayFormat(const QString& format) {
     }
 }
 
-DisplayFormat::section DisplayFormat::parse_section(QStringView text) {
+display_format::section display_format::parse_section(QStringView text) {
     section parsed;
     parsed.kind = Kind::literal;
     QString placeholder;
@@ -81,7 +81,7 @@ DisplayFormat::section DisplayFormat::parse_section(QStringView text) {
     return parsed;
 }
 
-QString DisplayFormat::to_toolkit_date(QStringView placeholder) {
+QString display_format::to_toolkit_date(QStringView placeholder) {
     QString result;
     bool minutes = false; // "m" behind hours means minutes
     for (const QChar c : placeholder) {
@@ -99,7 +99,7 @@ QString DisplayFormat::to_toolkit_date(QStringView placeholder) {
     return result;
 }
 
-void DisplayFormat::parse_number(QStringView placeholder, section& parsed) {
+void display_format::parse_number(QStringView placeholder, section& parsed) {
     const qsizetype point = placeholder.indexOf(u'.');
     const QStringView integer = point < 0 ? placeholder : placeholder.first(point);
     const QStringView decimals = point < 0 ? QStringView() : placeholder.sliced(point + 1);
@@ -111,7 +111,7 @@ void DisplayFormat::parse_number(QStringView placeholder, section& parsed) {
         qMin<qsizetype>(decimals.count(u'0') + decimals.count(u'#'), most_decimals_shown));
 }
 
-QString DisplayFormat::apply(const QVariant& value) const {
+QString display_format::apply(const QVariant& value) const {
     if (sections_.empty() || value.isNull()) {
         return value.toString();
     }
@@ -135,7 +135,7 @@ QString DisplayFormat::apply(const QVariant& value) const {
     return value.toString();
 }
 
-QString DisplayFormat::format_number(const section& format, double number) {
+QString display_format::format_number(const section& format, double number) {
     QLocale locale = QLocale::c();
     locale.setNumberOptions(format.grouped ? QLocale::DefaultNumberOptions
                                            : QLocale::OmitGroupSeparator);
@@ -156,7 +156,7 @@ QString DisplayFormat::format_number(const section& format, double number) {
     return (sign ? u"-"_s : QString()) + format.before + digits + format.after;
 }
 
-const DisplayFormat::section& DisplayFormat::section_for(double number) const {
+const display_format::section& display_format::section_for(double number) const {
     if (number < 0 && sections_.size() > 1) {
         return sections_[1];
     }

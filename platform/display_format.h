@@ -10,10 +10,10 @@
 
 /// A display format of a column: dates ("yyyy-mm-dd hh:mm:ss"), numbers ("##,###.00"), text ("@"),
 /// with "\x" for a literal x and up to three sections for positive; negative; zero numbers.
-class DisplayFormat {
+class display_format {
 public:
-    DisplayFormat() = default;
-    explicit DisplayFormat(const QString& format);
+    display_format() = default;
+    explicit display_format(const QString& format);
 
     /// The value as the format shows it; a value that the format does not fit is shown as it is.
     [[nodiscard]] QString apply(const QVariant& value) const;

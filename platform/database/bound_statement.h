@@ -15,7 +15,9 @@ public:
     /// Runs it with these values in the question marks' order; an invalid one is Null.
     void run(const QVariantList& values = {}) { prepared_->run(values); }
     /// The same for a statement that gives rows.
-    [[nodiscard]] RowStore rows(const QVariantList& values = {}) { return prepared_->rows(values); }
+    [[nodiscard]] row_store rows(const QVariantList& values = {}) {
+        return prepared_->rows(values);
+    }
 
 private:
     std::unique_ptr<physical_database::prepared_statement> prepared_;

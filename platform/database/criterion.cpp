@@ -17,7 +17,7 @@ namespace {
 
 } // namespace
 
-qsizetype parse_column(QStringView name, const RowStore& store) {
+qsizetype parse_column(QStringView name, const row_store& store) {
     name = name.trimmed();
     if (name.startsWith(u'[') && name.endsWith(u']')) {
         name = name.sliced(1, name.size() - 2);
@@ -30,7 +30,7 @@ qsizetype parse_column(QStringView name, const RowStore& store) {
     return column;
 }
 
-Criterion::Criterion(const QString& text, const RowStore& store) {
+criterion::criterion(const QString& text, const row_store& store) {
     static const QRegularExpression pattern(
         uR"(^\s*(\w+|\[[^\]]+\])\s*=\s*(?:'([^']*)'|([+-]?[0-9.]+))\s*$)"_s,
         QRegularExpression::UseUnicodePropertiesOption);
@@ -51,21 +51,21 @@ Criterion::Criterion(const QString& text, const RowStore& store) {
     moment_ = read_wall_time(value_);
 }
 
-bool Criterion::matches(const RowStore& store, qsizetype row) const {
+bool criterion::matches(const row_store& store, qsizetype row) const {
     switch (store.type(row, column_)) {
-    case RowStore::Type::text:
+    case row_store::Type::text:
         return matches_text(store.text(row, column_));
-    case RowStore::Type::integer:
+    case row_store::Type::integer:
         return number_ && static_cast<double>(store.integer(row, column_)) == *number_;
-    case RowStore::Type::real:
+    case row_store::Type::real:
         return number_ && store.real(row, column_) == *number_;
-    case RowStore::Type::null:
+    case row_store::Type::null:
         break;
     }
     return false;
 }
 
-bool Criterion::matches_text(const QString& text) const {
+bool criterion::matches_text(const QString& text) const {
     // Shown dates and stored ones differ in their marks; both name the same moment.
     if (moment_) {
         return read_wall_time(text) == moment_;

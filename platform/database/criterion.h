@@ -9,12 +9,12 @@
 #include <optional>
 
 /// A find criterion: COLUMN = 'text' or COLUMN = number, blanks around its pieces skipped.
-class Criterion {
+class criterion {
 public:
     /// Throws DataError (criterion) when the text has another form or names no column of `store`.
-    Criterion(const QString& text, const RowStore& store);
+    criterion(const QString& text, const row_store& store);
 
-    [[nodiscard]] bool matches(const RowStore& store, qsizetype row) const;
+    [[nodiscard]] bool matches(const row_store& store, qsizetype row) const;
 
 private:
     [[nodiscard]] bool matches_text(const QString& text) const;
@@ -26,4 +26,4 @@ private:
 };
 
 /// A column name as criteria and sort orders write it: bare or in square brackets.
-[[nodiscard]] qsizetype parse_column(QStringView name, const RowStore& store);
+[[nodiscard]] qsizetype parse_column(QStringView name, const row_store& store);

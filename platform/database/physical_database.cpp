@@ -6,7 +6,7 @@
 #include "platform/database/sqlite_database.h"
 
 QStringList physical_database::column(const QString& statement) {
-    const RowStore found = rows(statement);
+    const row_store found = rows(statement);
     QStringList texts;
     for (qsizetype row = 0; row < found.rows(); ++row) {
         texts.append(found.text(row, 0));
@@ -15,7 +15,7 @@ QStringList physical_database::column(const QString& statement) {
 }
 
 QList<QStringList> physical_database::texts(const QString& statement, const QVariantList& values) {
-    const RowStore found = rows(statement, values);
+    const row_store found = rows(statement, values);
     QList<QStringList> result;
     for (qsizetype row = 0; row < found.rows(); ++row) {
         QStringList& fields = result.emplace_back();
@@ -27,7 +27,7 @@ QList<QStringList> physical_database::texts(const QString& statement, const QVar
 }
 
 qint64 physical_database::number(const QString& statement) {
-    const RowStore found = rows(statement);
+    const row_store found = rows(statement);
     return found.rows() == 0 ? 0 : found.value(0, 0).toLongLong();
 }
 

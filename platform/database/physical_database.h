@@ -45,7 +45,7 @@ public:
         /// invalid one is Null. Its rows are dropped.
         virtual void run(const QVariantList& values) = 0;
         /// The same, and gives the rows.
-        [[nodiscard]] virtual RowStore rows(const QVariantList& values) = 0;
+        [[nodiscard]] virtual row_store rows(const QVariantList& values) = 0;
     };
 
     physical_database() = default;
@@ -54,8 +54,8 @@ public:
 
     /// The rows of exactly one statement; `values` take the place of its question marks and may be
     /// any text, also one with quotes in it.
-    [[nodiscard]] virtual RowStore rows(const QString& statement,
-                                        const QVariantList& values = {}) = 0;
+    [[nodiscard]] virtual row_store rows(const QString& statement,
+                                         const QVariantList& values = {}) = 0;
     /// Runs exactly one statement to its end and drops its rows.
     virtual void execute(const QString& statement, const QVariantList& values = {}) = 0;
     /// Runs several statements separated by ";" as they stand, in the engine's own SQL.

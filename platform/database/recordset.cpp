@@ -82,14 +82,14 @@ void Recordset::read_rows(const QString& statement) {
 void Recordset::OpenInMemory(const QStringList& fields) {
     require_closed();
     table_.clear();
-    store_ = RowStore(fields);
+    store_ = row_store(fields);
     state_ = StateEnum::open;
     position_ = 0;
 }
 
 void Recordset::Close() {
     require_open();
-    store_ = RowStore();
+    store_ = row_store();
     order_.clear();
     sort_.clear();
     row_ids_.clear();
@@ -143,9 +143,9 @@ void Recordset::set_position(qsizetype row) {
     position_ = qBound<qsizetype>(-1, row, RecordCount());
 }
 
-void Recordset::Find(const QString& criterion, qsizetype skip, SearchDirectionEnum direction) {
+void Recordset::Find(const QString& condition, qsizetype skip, SearchDirectionEnum direction) {
     require_open();
-    const Criterion wanted(criterion, store_);
+    const criterion wanted(condition, store_);
     if (Bof() || Eof()) {
         raise_cursor(u"there is no current row to search from"_s);
     }

@@ -50,7 +50,7 @@ public:
     /// Searches from `skip` rows beyond the current one for a row with COLUMN = 'text' or COLUMN =
     /// number; the cursor ends on it, or at Eof (Bof when searching backward) when there is none.
     /// Texts compare without regard to case, numbers and date-times by their value.
-    void Find(const QString& criterion, qsizetype skip = 0,
+    void Find(const QString& condition, qsizetype skip = 0,
               SearchDirectionEnum direction = SearchDirectionEnum::forward);
     /// Orders the rows by "COLUMN", "COLUMN ASC" or "COLUMN DESC" and goes to the first; an empty
     /// text brings the original order back.
@@ -68,7 +68,7 @@ public:
 
     // For grids and bulk readers: cells by row (in the present order) and column, both from 0.
     [[nodiscard]] qsizetype column(QStringView name) const { return store_.column(name); }
-    [[nodiscard]] const RowStore& store() const { return store_; }
+    [[nodiscard]] const row_store& store() const { return store_; }
     [[nodiscard]] qsizetype store_row(qsizetype row) const;
 
 private:
@@ -86,7 +86,7 @@ private:
     std::shared_ptr<physical_database> database_;
 
     StateEnum state_ = StateEnum::closed;
-    RowStore store_;
+    row_store store_;
     QString sort_;
     std::vector<qint32> order_; ///< rows of the store in their sorted order; empty: as they came
     qsizetype position_ = -1;

@@ -18,19 +18,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct sort_key {
-    RowStore::Type type = RowStore::Type::null;
+    row_store::Type type = row_store::Type::null;
     double number = 0;
     std::optional<QCollatorSortKey> text;
 };
 
-int rank(RowStore::Type type) {
+int rank(row_store::Type type) {
     switch (type) {
-    case RowStore::Type::null:
+    case row_store::Type::null:
         return 0;
-    case RowStore::Type::integer:
-    case RowStore::Type::real:
+    case row_store::Type::integer:
+    case row_store::Type::real:
         return 1;
-    case RowStore::Type::text:
+    case row_store::Type::text:
         break;
     }
     return 2;
@@ -45,16 +45,16 @@ bool operator<(const sort_key& left, const sort_key& right) {
     return left_rank == 1 ? left.number < right.number : left.text->compare(*right.text) < 0;
 }
 
-std::vector<sort_key> keys_of(const RowStore& store, qsizetype column) {
+std::vector<sort_key> keys_of(const row_store& store, qsizetype column) {
     QCollator collator(QLocale(QLocale::Chinese, QLocale::China));
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     std::vector<sort_key> keys(static_cast<size_t>(store.rows()));
     for (qsizetype row = 0; row < store.rows(); ++row) {
         sort_key& key = keys[static_cast<size_t>(row)];
         key.type = store.type(row, column);
-        if (key.type == RowStore::Type::text) {
+        if (key.type == row_store::Type::text) {
             key.text = collator.sortKey(store.text(row, column));
-        } else if (key.type != RowStore::Type::null) {
+        } else if (key.type != row_store::Type::null) {
             key.number = store.value(row, column).toDouble();
         }
     }
@@ -63,7 +63,7 @@ std::vector<sort_key> keys_of(const RowStore& store, qsizetype column) {
 
 } // namespace
 
-std::vector<qint32> sorted_rows(const RowStore& store, const QString& order) {
+std::vector<qint32> sorted_rows(const row_store& store, const QString& order) {
     if (order.trimmed().isEmpty()) {
         return {};
     }

@@ -11,4 +11,4 @@
 /// rows keep their order. Null comes first, then numbers by value, then texts as a Chinese
 /// dictionary orders them. An empty text gives an empty list: the rows as they stand. Throws
 /// DataError (criterion) for anything else.
-[[nodiscard]] std::vector<qint32> sorted_rows(const RowStore& store, const QString& order);
+[[nodiscard]] std::vector<qint32> sorted_rows(const row_store& store, const QString& order);

@@ -18,7 +18,7 @@ QString to_text(QByteArrayView utf8) {
 
 } // namespace
 
-qsizetype RowStore::column(QStringView name) const {
+qsizetype row_store::column(QStringView name) const {
     const auto found =
         std::find_if(columns_.begin(), columns_.end(), [name](const QString& column) {
             return name.compare(column, Qt::CaseInsensitive) == 0;
@@ -26,35 +26,35 @@ qsizetype RowStore::column(QStringView name) const {
     return found == columns_.end() ? -1 : found - columns_.begin();
 }
 
-qsizetype RowStore::rows() const noexcept {
+qsizetype row_store::rows() const noexcept {
     return columns_.isEmpty() ? 0 : std::ssize(cells_) / columns_.size();
 }
 
-void RowStore::append_null() {
+void row_store::append_null() {
     cells_.emplace_back();
 }
 
-void RowStore::append_integer(qint64 value) {
+void row_store::append_integer(qint64 value) {
     cell& added = cells_.emplace_back();
     added.type = Type::integer;
     added.content = value;
 }
 
-void RowStore::append_real(double value) {
+void row_store::append_real(double value) {
     cell& added = cells_.emplace_back();
     added.type = Type::real;
     added.content = std::bit_cast<qint64>(value);
 }
 
-void RowStore::append_text(QByteArrayView utf8) {
+void row_store::append_text(QByteArrayView utf8) {
     cells_.push_back(make_text(utf8));
 }
 
-void RowStore::append_row() {
+void row_store::append_row() {
     cells_.resize(cells_.size() + static_cast<size_t>(columns_.size()));
 }
 
-std::vector<qint64> RowStore::take_first_column() {
+std::vector<qint64> row_store::take_first_column() {
     std::vector<qint64> taken;
     std::vector<cell> left;
     const auto width = static_cast<size_t>(columns_.size());
@@ -70,24 +70,24 @@ std::vector<qint64> RowStore::take_first_column() {
     return taken;
 }
 
-RowStore::Type RowStore::type(qsizetype row, qsizetype column) const {
+row_store::Type row_store::type(qsizetype row, qsizetype column) const {
     return at(row, column).type;
 }
 
-qint64 RowStore::integer(qsizetype row, qsizetype column) const {
+qint64 row_store::integer(qsizetype row, qsizetype column) const {
     return at(row, column).content;
 }
 
-double RowStore::real(qsizetype row, qsizetype column) const {
+double row_store::real(qsizetype row, qsizetype column) const {
     return std::bit_cast<double>(at(row, column).content);
 }
 
-QByteArrayView RowStore::utf8(qsizetype row, qsizetype column) const {
+QByteArrayView row_store::utf8(qsizetype row, qsizetype column) const {
     const cell& found = at(row, column);
     return {texts_.data() + found.content, static_cast<qsizetype>(found.length)};
 }
 
-QString RowStore::text(qsizetype row, qsizetype column) const {
+QString row_store::text(qsizetype row, qsizetype column) const {
     switch (type(row, column)) {
     case Type::text:
         return to_text(utf8(row, column));
@@ -101,7 +101,7 @@ QString RowStore::text(qsizetype row, qsizetype column) const {
     return {};
 }
 
-QVariant RowStore::value(qsizetype row, qsizetype column) const {
+QVariant row_store::value(qsizetype row, qsizetype column) const {
     switch (type(row, column)) {
     case Type::text:
         return text(row, column);
@@ -115,7 +115,7 @@ QVariant RowStore::value(qsizetype row, qsizetype column) const {
     return {};
 }
 
-void RowStore::set_value(qsizetype row, qsizetype column, const QVariant& value) {
+void row_store::set_value(qsizetype row, qsizetype column, const QVariant& value) {
     cell changed;
     if (value.isNull()) {
         changed.type = Type::null;
@@ -131,7 +131,7 @@ void RowStore::set_value(qsizetype row, qsizetype column, const QVariant& value)
     cells_.at(static_cast<size_t>(row * columns_.size() + column)) = changed;
 }
 
-RowStore::cell RowStore::make_text(QByteArrayView utf8) {
+row_store::cell row_store::make_text(QByteArrayView utf8) {
     cell made;
     made.type = Type::text;
     made.length = static_cast<quint32>(utf8.size());
@@ -140,6 +140,6 @@ RowStore::cell RowStore::make_text(QByteArrayView utf8) {
     return made;
 }
 
-const RowStore::cell& RowStore::at(qsizetype row, qsizetype column) const {
+const row_store::cell& row_store::at(qsizetype row, qsizetype column) const {
     return cells_.at(static_cast<size_t>(row * columns_.size() + column));
 }

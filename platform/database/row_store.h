@@ -11,12 +11,12 @@
 
 /// The rows of a record set in memory: 16 bytes a cell, all texts in one UTF-8 buffer, so that a
 /// list of tens of thousands of rows is read in a few milliseconds and stays small.
-class RowStore {
+class row_store {
 public:
     enum class Type : quint8 { null, integer, real, text };
 
-    RowStore() = default;
-    explicit RowStore(QStringList columns) : columns_(std::move(columns)) {}
+    row_store() = default;
+    explicit row_store(QStringList columns) : columns_(std::move(columns)) {}
 
     [[nodiscard]] const QStringList& columns() const noexcept { return columns_; }
     /// The position of a column by its name without regard to case, or -1.

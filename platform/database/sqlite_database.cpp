@@ -119,7 +119,7 @@ void sqlite_database::run_first(const char* sql, const QString& path) {
     }
 }
 
-RowStore sqlite_database::rows(const QString& statement, const QVariantList& values) {
+row_store sqlite_database::rows(const QString& statement, const QVariantList& values) {
     return sqlite_statement(handle(), statement).rows(values);
 }
 

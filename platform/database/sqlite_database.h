@@ -16,7 +16,8 @@ public:
     ~sqlite_database() override;
     Q_DISABLE_COPY_MOVE(sqlite_database)
 
-    [[nodiscard]] RowStore rows(const QString& statement, const QVariantList& values = {}) override;
+    [[nodiscard]] row_store rows(const QString& statement,
+                                 const QVariantList& values = {}) override;
     void execute(const QString& statement, const QVariantList& values = {}) override;
     void execute_script(const char* script) override;
     [[nodiscard]] std::unique_ptr<prepared_statement> prepare(const QString& statement) override;

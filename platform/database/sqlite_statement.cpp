@@ -22,7 +22,7 @@ bool is_blank(QByteArrayView rest) {
                        [](char c) { return c == ';' || QChar::isSpace(static_cast<uchar>(c)); });
 }
 
-void append_cell(RowStore& store, sqlite3_stmt* row, int column) {
+void append_cell(row_store& store, sqlite3_stmt* row, int column) {
     switch (sqlite3_column_type(row, column)) {
     case SQLITE_INTEGER:
         store.append_integer(sqlite3_column_int64(row, column));
@@ -107,7 +107,7 @@ void sqlite_statement::run(const QVariantList& values) {
     }
 }
 
-RowStore sqlite_statement::rows(const QVariantList& values) {
+row_store sqlite_statement::rows(const QVariantList& values) {
     const auto rest = qScopeGuard([this] { sqlite3_reset(handle_); });
     bind(values);
     const int columns = sqlite3_column_count(handle_);
@@ -115,7 +115,7 @@ RowStore sqlite_statement::rows(const QVariantList& values) {
     for (int i = 0; i < columns; ++i) {
         names.append(QString::fromUtf8(sqlite3_column_name(handle_, i)));
     }
-    RowStore store(names);
+    row_store store(names);
     while (step()) {
         for (int i = 0; i < columns; ++i) {
             append_cell(store, handle_, i);

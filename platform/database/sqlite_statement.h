@@ -17,7 +17,7 @@ public:
     Q_DISABLE_COPY_MOVE(sqlite_statement)
 
     void run(const QVariantList& values) override;
-    [[nodiscard]] RowStore rows(const QVariantList& values) override;
+    [[nodiscard]] row_store rows(const QVariantList& values) override;
 
     [[nodiscard]] sqlite3_stmt* handle() const noexcept { return handle_; }
 

@@ -18,7 +18,7 @@
 
 using namespace Qt::StringLiterals;
 
-DataGrid::DataGrid(QWidget* parent) : QTableView(parent) {
+data_grid::data_grid(QWidget* parent) : QTableView(parent) {
     setModel(&model_);
     setItemDelegate(new cell_delegate(this));
     setSelectionBehavior(SelectRows);
@@ -30,10 +30,10 @@ DataGrid::DataGrid(QWidget* parent) : QTableView(parent) {
     setHorizontalScrollMode(ScrollPerPixel);
     setWordWrap(true);
 
-    connect(this, &QTableView::doubleClicked, this, &DataGrid::toggled);
-    connect(this, &QTableView::doubleClicked, this, &DataGrid::opened);
+    connect(this, &QTableView::doubleClicked, this, &data_grid::toggled);
+    connect(this, &QTableView::doubleClicked, this, &data_grid::opened);
     // Cells are read while they are painted, when no box may come up.
-    connect(&model_, &RecordsetModel::cell_failed, this, &DataGrid::failed, Qt::QueuedConnection);
+    connect(&model_, &recordset_model::cell_failed, this, &data_grid::failed, Qt::QueuedConnection);
 
     set_lines(1);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -45,14 +45,14 @@ DataGrid::DataGrid(QWidget* parent) : QTableView(parent) {
                                               twips::per_inch);
 }
 
-void DataGrid::set_columns(const QList<grid_column>& columns) {
+void data_grid::set_columns(const QList<grid_column>& columns) {
     model_.set_columns(columns);
     apply_widths();
     show_position();
     show_order();
 }
 
-void DataGrid::apply_widths() {
+void data_grid::apply_widths() {
     for (int i = 0; i < model_.columnCount(); ++i) {
         const grid_column& column = model_.columns().at(i);
         const int width = twips::to_pixels(column.width_twips, resolution());
@@ -61,7 +61,7 @@ void DataGrid::apply_widths() {
     }
 }
 
-void DataGrid::set_recordset(Recordset* rows) {
+void data_grid::set_recordset(Recordset* rows) {
     rows_ = nullptr; // the reset below must not move the new set's cursor
     model_.set_recordset(rows);
     rows_ = rows;
@@ -69,20 +69,20 @@ void DataGrid::set_recordset(Recordset* rows) {
     show_order();
 }
 
-void DataGrid::set_sortable() {
+void data_grid::set_sortable() {
     horizontalHeader()->setSectionsClickable(true);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
             guarded([this](int column) { sort_by_heading(column); }));
 }
 
-void DataGrid::set_lines(int lines) {
+void data_grid::set_lines(int lines) {
     const int line = fontMetrics().lineSpacing();
     verticalHeader()->setDefaultSectionSize(line * lines + line / 2);
     updateGeometries(); // the scroll bar's range, before it is moved
     show_marked_row();
 }
 
-void DataGrid::sort_by_heading(int column) {
+void data_grid::sort_by_heading(int column) {
     // The header has turned its arrow already.
     const bool descending = horizontalHeader()->sortIndicatorOrder() == Qt::DescendingOrder;
     const QString& field = model_.columns().at(column).data_field;
@@ -91,7 +91,7 @@ void DataGrid::sort_by_heading(int column) {
     }
 }
 
-void DataGrid::sort_rows(const QString& order) {
+void data_grid::sort_rows(const QString& order) {
     const qsizetype marked = row() < 0 ? -1 : rows_->store_row(row());
     rows_->set_Sort(order);
     for (qsizetype i = 0; i < rows_->RecordCount(); ++i) {
@@ -104,7 +104,7 @@ void DataGrid::sort_rows(const QString& order) {
 }
 
 /// The arrow stands in the column that the rows are sorted by, wherever that was chosen.
-void DataGrid::show_order() {
+void data_grid::show_order() {
     const QString order = rows_ == nullptr ? QString() : rows_->Sort().trimmed();
     QString field = order.section(u' ', 0, 0);
     if (field.startsWith(u'[')) {
@@ -120,14 +120,14 @@ void DataGrid::show_order() {
                             order.endsWith(u"DESC"_s) ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
-int DataGrid::column_to_mark() const {
+int data_grid::column_to_mark() const {
     const int current = currentIndex().column();
     return current >= 0 && !isColumnHidden(current)
                ? current
                : qMax(horizontalHeader()->logicalIndexAt(0), 0);
 }
 
-void DataGrid::show_position() {
+void data_grid::show_position() {
     if (rows_ == nullptr || model_.rowCount() == 0) {
         return;
     }
@@ -138,13 +138,13 @@ void DataGrid::show_position() {
     show_marked_row();
 }
 
-void DataGrid::show_marked_row() {
+void data_grid::show_marked_row() {
     const int left = horizontalScrollBar()->value();
     scrollTo(currentIndex());
     horizontalScrollBar()->setValue(left);
 }
 
-DataGrid::place DataGrid::seen() const {
+data_grid::place data_grid::seen() const {
     const QRect marked = visualRect(currentIndex());
     return {.row = row(),
             .column = currentIndex().column(),
@@ -153,7 +153,7 @@ DataGrid::place DataGrid::seen() const {
             .marked_row_seen = marked.bottom() >= 0 && marked.top() < viewport()->height()};
 }
 
-void DataGrid::show_again(const place& before) {
+void data_grid::show_again(const place& before) {
     executeDelayedItemsLayout();
     if (row() < 0 || before.row < 0) {
         return;
@@ -164,19 +164,19 @@ void DataGrid::show_again(const place& before) {
     horizontalScrollBar()->setValue(before.left);
 }
 
-int DataGrid::row() const {
+int data_grid::row() const {
     return currentIndex().isValid() ? currentIndex().row() : -1;
 }
 
-QString DataGrid::text(int column) const {
+QString data_grid::text(int column) const {
     return model_.data(model_.index(row(), column), Qt::DisplayRole).toString();
 }
 
-int DataGrid::width_twips(int column) const {
+int data_grid::width_twips(int column) const {
     return twips::from_pixels(columnWidth(column), resolution());
 }
 
-QList<int> DataGrid::shown_columns() const {
+QList<int> data_grid::shown_columns() const {
     QList<int> columns;
     for (int column = 0; column < model_.columnCount(); ++column) {
         if (!isColumnHidden(column)) {
@@ -186,7 +186,7 @@ QList<int> DataGrid::shown_columns() const {
     return columns;
 }
 
-QStringList DataGrid::texts(int row, const QList<int>& columns) const {
+QStringList data_grid::texts(int row, const QList<int>& columns) const {
     QStringList texts;
     for (const int column : columns) {
         const QModelIndex cell = model_.index(row, column);
@@ -196,7 +196,7 @@ QStringList DataGrid::texts(int row, const QList<int>& columns) const {
     return texts;
 }
 
-QStringList DataGrid::captions(const QList<int>& columns) const {
+QStringList data_grid::captions(const QList<int>& columns) const {
     QStringList captions;
     for (const int column : columns) {
         captions.append(model_.columns().at(column).caption);
@@ -204,13 +204,13 @@ QStringList DataGrid::captions(const QList<int>& columns) const {
     return captions;
 }
 
-bool DataGrid::shows_text(int row, const QList<int>& columns, const QString& text) const {
+bool data_grid::shows_text(int row, const QList<int>& columns, const QString& text) const {
     return std::any_of(columns.begin(), columns.end(), [&](int column) {
         return model_.index(row, column).data().toString().contains(text, Qt::CaseInsensitive);
     });
 }
 
-int DataGrid::find_text(const QString& text, int start, int step) const {
+int data_grid::find_text(const QString& text, int start, int step) const {
     const int rows = model_.rowCount();
     const QList<int> columns = shown_columns();
     for (int i = 0; i < rows; ++i) {
@@ -222,17 +222,17 @@ int DataGrid::find_text(const QString& text, int start, int step) const {
     return -1;
 }
 
-int DataGrid::resolution() const {
+int data_grid::resolution() const {
     constexpr double usual_size = 9; // points; what the widths that are delivered have room for
     return qRound(logicalDpiX() * qMax(QFontInfo(font()).pointSizeF() / usual_size, 1.0));
 }
 
-void DataGrid::keyPressEvent(QKeyEvent* event) {
+void data_grid::keyPressEvent(QKeyEvent* event) {
     const auto is_heard = [this](const QMetaMethod& signal) { return isSignalConnected(signal); };
     const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool opens = enters && is_heard(QMetaMethod::fromSignal(&DataGrid::opened));
+    const bool opens = enters && is_heard(QMetaMethod::fromSignal(&data_grid::opened));
     const bool toggles = (enters || event->key() == Qt::Key_Space) &&
-                         is_heard(QMetaMethod::fromSignal(&DataGrid::toggled));
+                         is_heard(QMetaMethod::fromSignal(&data_grid::toggled));
     if (row() < 0 || !(opens || toggles)) {
         QTableView::keyPressEvent(event);
         return;
@@ -249,7 +249,7 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+void data_grid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
     if (rows_ != nullptr && current.isValid()) {
         rows_->set_position(current.row());
@@ -259,13 +259,13 @@ void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& pre
     }
 }
 
-QItemSelectionModel::SelectionFlags DataGrid::selectionCommand(const QModelIndex& index,
-                                                               const QEvent* /*event*/) const {
+QItemSelectionModel::SelectionFlags data_grid::selectionCommand(const QModelIndex& index,
+                                                                const QEvent* /*event*/) const {
     return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
                            : QItemSelectionModel::NoUpdate;
 }
 
-QModelIndex DataGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+QModelIndex data_grid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
     if (action == MoveHome || action == MoveEnd) {
         return model_.index(action == MoveHome ? 0 : model_.rowCount() - 1, column_to_mark());
     }

@@ -9,7 +9,7 @@
 
 /// A read-only grid bound to a record set: the grid's current row is the record set's current row.
 /// While there are rows, one of them is marked, and it is the current one: nothing unmarks it.
-class DataGrid : public QTableView {
+class data_grid : public QTableView {
     Q_OBJECT
 
 public:
@@ -22,7 +22,7 @@ public:
         bool marked_row_seen = false;
     };
 
-    explicit DataGrid(QWidget* parent = nullptr);
+    explicit data_grid(QWidget* parent = nullptr);
 
     void set_columns(const QList<grid_column>& columns);
     /// Binds the rows (nullptr: none) and puts the current row where the record set's cursor
@@ -84,6 +84,6 @@ private:
     /// Dots per inch of a column's width: larger text gets wider columns.
     [[nodiscard]] int resolution() const;
 
-    RecordsetModel model_;
+    recordset_model model_;
     Recordset* rows_ = nullptr;
 };

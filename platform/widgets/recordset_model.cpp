@@ -28,20 +28,20 @@ bool is_true(const QVariant& value) {
 
 } // namespace
 
-void RecordsetModel::set_columns(const QList<grid_column>& columns) {
+void recordset_model::set_columns(const QList<grid_column>& columns) {
     beginResetModel();
     columns_ = columns;
     formats_.clear();
     for (const grid_column& column : columns) {
         formats_.append(column.format_type == grid_column::Format::custom
-                            ? DisplayFormat(column.format)
-                            : DisplayFormat());
+                            ? display_format(column.format)
+                            : display_format());
     }
     find_fields();
     endResetModel();
 }
 
-void RecordsetModel::set_recordset(const Recordset* rows) {
+void recordset_model::set_recordset(const Recordset* rows) {
     beginResetModel();
     rows_ = rows;
     failed_ = false;
@@ -49,22 +49,22 @@ void RecordsetModel::set_recordset(const Recordset* rows) {
     endResetModel();
 }
 
-void RecordsetModel::find_fields() {
+void recordset_model::find_fields() {
     fields_.clear();
     for (const grid_column& column : columns_) {
         fields_.append(rows_ == nullptr ? -1 : rows_->column(column.data_field));
     }
 }
 
-int RecordsetModel::rowCount(const QModelIndex& parent) const {
+int recordset_model::rowCount(const QModelIndex& parent) const {
     return parent.isValid() || rows_ == nullptr ? 0 : static_cast<int>(rows_->RecordCount());
 }
 
-int RecordsetModel::columnCount(const QModelIndex& parent) const {
+int recordset_model::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(columns_.size());
 }
 
-QVariant RecordsetModel::data(const QModelIndex& index, int role) const {
+QVariant recordset_model::data(const QModelIndex& index, int role) const {
     try {
         return cell(index, role);
     } catch (const std::exception&) { // nothing may pass through the view that asks
@@ -75,7 +75,7 @@ QVariant RecordsetModel::data(const QModelIndex& index, int role) const {
     }
 }
 
-QVariant RecordsetModel::cell(const QModelIndex& index, int role) const {
+QVariant recordset_model::cell(const QModelIndex& index, int role) const {
     if (!index.isValid() || fields_.value(index.column(), -1) < 0) {
         return {};
     }
@@ -92,8 +92,8 @@ QVariant RecordsetModel::cell(const QModelIndex& index, int role) const {
                                                                               : Qt::Unchecked)
                          : QVariant();
     case Qt::TextAlignmentRole: {
-        const RowStore::Type type = rows_->store().type(row, field);
-        const bool is_number = type == RowStore::Type::integer || type == RowStore::Type::real;
+        const row_store::Type type = rows_->store().type(row, field);
+        const bool is_number = type == row_store::Type::integer || type == row_store::Type::real;
         return QVariant::fromValue(to_alignment(column.alignment, is_number));
     }
     default:
@@ -101,7 +101,7 @@ QVariant RecordsetModel::cell(const QModelIndex& index, int role) const {
     }
 }
 
-QString RecordsetModel::display_text(const QVariant& value, int column) const {
+QString recordset_model::display_text(const QVariant& value, int column) const {
     const grid_column& shown = columns_.at(column);
     if (value.isNull()) {
         return shown.null_text;
@@ -112,7 +112,7 @@ QString RecordsetModel::display_text(const QVariant& value, int column) const {
     return formats_.at(column).apply(value);
 }
 
-QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, int role) const {
+QVariant recordset_model::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Vertical) {
         return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
     }

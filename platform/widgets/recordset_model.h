@@ -30,7 +30,7 @@ struct grid_column {
 };
 
 /// The rows of a record set as a table model; reads cells as they are painted and copies nothing.
-class RecordsetModel : public QAbstractTableModel {
+class recordset_model : public QAbstractTableModel {
     Q_OBJECT
 
 public:
@@ -58,7 +58,7 @@ private:
     [[nodiscard]] QString display_text(const QVariant& value, int column) const;
 
     QList<grid_column> columns_;
-    QList<DisplayFormat> formats_;
+    QList<display_format> formats_;
     QList<qsizetype> fields_; ///< the record set's column behind each grid column, -1 for none
     const Recordset* rows_ = nullptr;
     mutable bool failed_ = false; ///< and that was told

@@ -122,7 +122,7 @@ private slots:
         QVERIFY(queue.Count() == 2 && queue.Item(1)->smsid == 1 && queue.Item(2)->smsid == 3);
         QVERIFY(
             rows(u"explain query plan select * from vwsendsms where sendisok=0 and stime<'2030'"_s)
-                .contains(u"sendsms_pending"_s));
+                .contains(u"sendsms_queue"_s));
     }
 
     // Compared with what filling it takes, for there is no pace that every machine keeps.

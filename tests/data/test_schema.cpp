@@ -25,7 +25,7 @@ class test_schema : public QObject {
     QString path_ = folder_.filePath(u"sms.old.mdb"_s);
 
     [[nodiscard]] QString run(const QString& statement) const {
-        const RowStore rows = open_database(path_)->rows(statement);
+        const row_store rows = open_database(path_)->rows(statement);
         QStringList fields;
         for (qsizetype row = 0; row < rows.rows(); ++row) {
             for (qsizetype column = 0; column < rows.columns().size(); ++column) {

@@ -180,7 +180,7 @@ private:
     }
 
     void read_store() {
-        const RowStore rows = store().rows(
+        const row_store rows = store().rows(
             QStringLiteral("SELECT id, text FROM message WHERE id > ? ORDER BY id"), {last_id_});
         for (qsizetype row = 0; row < rows.rows(); ++row) {
             last_id_ = rows.integer(row, 0);

@@ -49,7 +49,7 @@ class test_rights : public QObject {
         program_.area.setActiveSubWindow(qobject_cast<QMdiSubWindow*>(list_.parentWidget()));
         program_.window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&program_.window));
-        DataGrid& grid = grid_of(list_);
+        data_grid& grid = grid_of(list_);
         grid.setFocus();
         const auto* button = list_.findChild<QAction*>(way);
         if (way.startsWith(u"mnu")) {

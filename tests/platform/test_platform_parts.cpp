@@ -37,7 +37,7 @@ private slots:
 
     void shows_values() {
         const auto shown = [](const QString& format, const QVariant& value) {
-            return DisplayFormat(format).apply(value);
+            return display_format(format).apply(value);
         };
         QCOMPARE(shown(u"yyyy-mm-dd hh:mm:ss"_s, u"2024/1/5 17:08:09"_s), u"2024-01-05 17:08:09"_s);
         QCOMPARE(shown(u"##,###.00"_s, -1234567.891), u"-1,234,567.89"_s);

@@ -46,11 +46,11 @@ private:
     }
 };
 
-[[nodiscard]] inline DataGrid& grid_of(const QWidget& window) {
-    return *window.findChild<DataGrid*>();
+[[nodiscard]] inline data_grid& grid_of(const QWidget& window) {
+    return *window.findChild<data_grid*>();
 }
 
-inline void click_heading(const DataGrid& grid, int column) {
+inline void click_heading(const data_grid& grid, int column) {
     const QHeaderView& header = *grid.horizontalHeader();
     const QPoint place(header.sectionViewportPosition(column) + 20, header.height() / 2);
     QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, place);

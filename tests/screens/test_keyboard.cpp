@@ -107,12 +107,12 @@ private slots:
                 .join(u' ');
         };
         person::during_modal<frmRights>([&](frmRights& editor) {
-            auto& functions = person::find<DataGrid>(editor, u"dataFuns"_s);
+            auto& functions = person::find<data_grid>(editor, u"dataFuns"_s);
             test_database::execute(u"alter table rights rename to gone"_s);
             for (int i = 0; i < 2; ++i) { // neither when the operator is chosen, nor afterwards
                 person::during_modal<QMessageBox>([](QMessageBox& box) { box.accept(); });
             }
-            person::find<DataGrid>(editor, u"dataUsers"_s).selectRow(1);
+            person::find<data_grid>(editor, u"dataUsers"_s).selectRow(1);
             QTest::keyClick(&functions, Qt::Key_Space);
             test_database::execute(u"alter table gone rename to rights"_s);
             QTest::keyClick(&functions, Qt::Key_Space); // reads them

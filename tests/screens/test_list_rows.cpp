@@ -16,12 +16,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The row that one sees marked, when commands go by it, too.
-int marked(const DataGrid& grid) {
+int marked(const data_grid& grid) {
     const QModelIndexList rows = grid.selectionModel()->selectedRows();
     return rows.size() == 1 && rows.front().row() == grid.row() ? grid.row() : -1;
 }
 
-bool is_seen(const DataGrid& grid, int row) {
+bool is_seen(const data_grid& grid, int row) {
     const QRect place = grid.visualRect(grid.model()->index(row, 0));
     return place.top() >= 0 && place.bottom() < grid.viewport()->height();
 }
@@ -58,7 +58,7 @@ private slots:
 
     void one_row_is_always_marked() {
         frmdatagrid& list = phrases();
-        DataGrid& grid = grid_of(list);
+        data_grid& grid = grid_of(list);
         QTest::mouseClick(grid.viewport(), Qt::LeftButton, {},
                           grid.visualRect(grid.model()->index(2, 1)).center());
         QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::ControlModifier,
@@ -83,7 +83,7 @@ private slots:
 
     void keeps_what_is_seen() {
         frmdatagrid& list = phrases();
-        DataGrid& grid = grid_of(list);
+        data_grid& grid = grid_of(list);
         grid.setColumnWidth(1, 3000);
         grid.setCurrentIndex(grid.model()->index(25, 1));
         grid.verticalScrollBar()->setValue(20);
@@ -128,7 +128,7 @@ private slots:
 
     void sorts_by_a_heading() {
         const frmdatagrid& list = phrases();
-        DataGrid& grid = grid_of(list);
+        data_grid& grid = grid_of(list);
         const QAbstractItemModelTester tester(grid.model());
         grid.selectRow(9);
         for (const auto& [column, first] :
@@ -181,12 +181,12 @@ private slots:
         Recordset rows;
         rows.OpenInMemory({u"mid"_s, u"text"_s});
         rows.AddNew();
-        DataGrid& grid = grid_of(list);
+        data_grid& grid = grid_of(list);
         grid.set_recordset(&rows);
         const QModelIndex cell = grid.model()->index(0, 1);
         rows.Close();
         person::expect_box(u"系统提示"_s, u"输入错误,请查看！"_s);
-        QSignalSpy failed(&grid, &DataGrid::failed);
+        QSignalSpy failed(&grid, &data_grid::failed);
         QVERIFY(!cell.data().isValid() && !cell.data().isValid());
         QTRY_COMPARE(failed.count(), 1);
         QTRY_VERIFY(person::all_answered());

@@ -58,7 +58,7 @@ private slots:
         test_database::execute(u"insert into smsmodels values (70, '晚安，明天见')"_s);
         person::during_modal<frmSendsms>([](frmSendsms& dialog) {
             person::during_modal<frmref>([](frmref& picker) {
-                DataGrid& grid = grid_of(picker);
+                data_grid& grid = grid_of(picker);
                 const auto& confirm = person::find<QPushButton>(picker, u"cmdok"_s);
                 QCOMPARE(picker.focusWidget()->objectName(), u"txtFind"_s);
                 click_heading(grid, 1);
@@ -116,7 +116,7 @@ private slots:
     void shows_and_copies_whole_texts() {
         store(1, u"first line\nsecond <b>line"_s);
         frmdatagrid& list = received();
-        DataGrid& grid = grid_of(list);
+        data_grid& grid = grid_of(list);
         for (const auto& open : {std::function([&] { person::double_click(grid, 0); }),
                                  std::function([&] { person::press_key(list, Qt::Key_Return); })}) {
             person::during_modal<row_dialog>([](row_dialog& dialog) {

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "listview/grid_columns.h"
+#include "data/view_definition.h"
 #include "listview/frmFind.h"
 #include "listview/frmSetList.h"
 #include "listview/frmSort.h"
 #include "listview/frmconduser.h"
 #include "listview/frmref.h"
-#include "data/view_definition.h"
+#include "listview/grid_columns.h"
 #include "operators/vc_users.h"
 #include "tests/screens/screen_fixture.h"
 
@@ -189,7 +189,7 @@ private slots:
             u"insert into viewitems (ViewNo, keyword, caption, Visible, pos) values ('VUsers', 'PassWord', '口令', -1, 9)"_s);
         const frmdatagrid& list = program_.list(u"mnuSysUSer"_s);
         QCOMPARE(grid_of(list).model()->columnCount(), 2); // nor is it searched or sorted by
-        DataGrid grid;
+        data_grid grid;
         spListHeaders headers;
         headers.Add({.key = u"PASSWORD"_s});
         apply_view(headers, grid);

@@ -75,7 +75,7 @@ void check_texts(const QWidget& window) {
         QVERIFY2((fits && contrast > 150) || !box->isVisible() || !box->isEnabled(),
                  qPrintable(text));
     }
-    for (const auto* grid : window.findChildren<DataGrid*>()) {
+    for (const auto* grid : window.findChildren<data_grid*>()) {
         for (int i = 0; i < grid->model()->columnCount(); ++i) {
             const QString text = grid->model()->index(0, i).data().toString();
             const int needed = qMax(grid->fontMetrics().horizontalAdvance(text),

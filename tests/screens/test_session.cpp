@@ -249,7 +249,7 @@ private slots:
             QCOMPARE(windows[0]->size() + windows[1]->size(), both);
             QVERIFY(!windows[0]->geometry().intersects(windows[1]->geometry()));
             QVERIFY(!icon.geometry().intersects(windows[0]->geometry() | windows[1]->geometry()));
-            QVERIFY(program_->window.focusWidget()->inherits("DataGrid"));
+            QVERIFY(program_->window.focusWidget()->inherits("data_grid"));
         }
         person::choose(program_->window, u"mnuWindowCascade"_s);
         QCOMPARE(windows[0]->size(), room * 3 / 4);

@@ -35,7 +35,7 @@ QStringList test_database::rows(const QString& statement) {
     for (qsizetype row = 0; row < rs.RecordCount(); ++row) {
         QStringList fields;
         for (qsizetype column = 0; column < rs.store().columns().size(); ++column) {
-            const bool is_null = rs.store().type(row, column) == RowStore::Type::null;
+            const bool is_null = rs.store().type(row, column) == row_store::Type::null;
             fields.append(is_null ? QStringLiteral("NULL") : rs.store().text(row, column));
         }
         rows.append(fields.join(u'|'));

@@ -21,7 +21,7 @@ using namespace visitor;
 
 namespace {
 
-void click_heading(const DataGrid& grid, int column) {
+void click_heading(const data_grid& grid, int column) {
     const QHeaderView& header = *grid.horizontalHeader();
     const QPoint place(header.sectionViewportPosition(column) + 20, header.height() / 2);
     QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, place);
@@ -29,7 +29,7 @@ void click_heading(const DataGrid& grid, int column) {
 
 /// The marked row stays: the status bar tells where it has gone.
 void sort_by_headings(frmMain& window) {
-    const DataGrid& grid = front_grid(window);
+    const data_grid& grid = front_grid(window);
     click_heading(grid, 1);
     click_heading(grid, 1);
     guide::step(
@@ -38,7 +38,7 @@ void sort_by_headings(frmMain& window) {
 }
 
 void open_the_menu(frmMain& window) {
-    DataGrid& grid = front_grid(window);
+    data_grid& grid = front_grid(window);
     QTimer::singleShot(0, &grid, [] { // while the menu is open
         QWidget* menu = nullptr;
         guide::wait_for(u"the context menu"_s, [&menu] {

@@ -226,7 +226,7 @@ void take_their_answers(frmMain& window, QProcess& gateway) {
 void change_the_layout(frmMain& window) {
     choose(window, u"mnuIN"_s, u"mnuProject"_s);
     person::expect_modal("frmSetList", [](QWidget& editor) {
-        auto& columns = person::find<DataGrid>(editor, u"MSHFlexGrid1"_s);
+        auto& columns = person::find<data_grid>(editor, u"MSHFlexGrid1"_s);
         columns.selectRow(2);
         person::click(editor, u"cmdUP"_s);
         columns.selectRow(4);

@@ -39,10 +39,10 @@ void add_an_operator(frmMain& window) {
 
 /// Toggles the right to the daily work of the operator in the second row; nobody else's changes.
 void change_the_right(frmMain& window, const QString& step, const QString& before,
-                      const QString& after, const std::function<void(DataGrid&)>& toggle) {
+                      const QString& after, const std::function<void(data_grid&)>& toggle) {
     person::expect_modal("frmRights", [=](QWidget& editor) {
-        person::find<DataGrid>(editor, u"dataUsers"_s).selectRow(1);
-        auto& functions = person::find<DataGrid>(editor, u"dataFuns"_s);
+        person::find<data_grid>(editor, u"dataUsers"_s).selectRow(1);
+        auto& functions = person::find<data_grid>(editor, u"dataFuns"_s);
         const QString rights =
             u"select group_concat(userid || funid, ' ') from (select * from rights order by userid, funid)"_s;
         guide::step(u"rights-before-"_s + step.section(u'-', -1), before,
@@ -95,11 +95,11 @@ void tour::fourth_run(frmMain& window, QProcess& /*gateway*/) {
     find_the_layout(window);
     add_an_operator(window);
     change_the_right(window, u"right-granted"_s, {}, u"√"_s,
-                     [](DataGrid& functions) { person::double_click(functions, 1); });
+                     [](data_grid& functions) { person::double_click(functions, 1); });
     log_in_as(window, u"clerk"_s, clerk, guide::secret);
     work_as_the_clerk(window);
     log_in_as(window, u"administrator"_s);
-    change_the_right(window, u"right-withdrawn"_s, u"√"_s, {}, [](DataGrid& functions) {
+    change_the_right(window, u"right-withdrawn"_s, u"√"_s, {}, [](data_grid& functions) {
         functions.selectRow(1);
         QTest::keyClick(&functions, Qt::Key_Space);
     });

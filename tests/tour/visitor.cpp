@@ -44,8 +44,8 @@ frmdatagrid& visitor::front_list(const frmMain& window) {
     return *qobject_cast<frmdatagrid*>(front->widget());
 }
 
-DataGrid& visitor::front_grid(const frmMain& window) {
-    return person::find<DataGrid>(front_list(window), u"DataGrid1"_s);
+data_grid& visitor::front_grid(const frmMain& window) {
+    return person::find<data_grid>(front_list(window), u"DataGrid1"_s);
 }
 
 void visitor::press(frmMain& window, const QString& tool) {
@@ -53,7 +53,7 @@ void visitor::press(frmMain& window, const QString& tool) {
     person::click(front_list(window), tool);
 }
 
-QString visitor::rows_of(const DataGrid& grid, int first, int last, int row) {
+QString visitor::rows_of(const data_grid& grid, int first, int last, int row) {
     QStringList rows;
     for (; row < grid.model()->rowCount(); ++row) {
         QStringList texts;
@@ -70,7 +70,7 @@ QString visitor::shown(const frmMain& window, int last, int row) {
 }
 
 QString visitor::layout_of(const frmMain& window) {
-    const DataGrid& grid = front_grid(window);
+    const data_grid& grid = front_grid(window);
     QStringList headings;
     for (int column = 0; column < grid.model()->columnCount(); ++column) {
         if (!grid.isColumnHidden(column)) {

@@ -5,7 +5,7 @@
 
 #include "tests/support/person.h"
 
-class DataGrid;
+class data_grid;
 class frmMain;
 class frmdatagrid;
 
@@ -19,11 +19,11 @@ namespace visitor {
 /// Chooses a menu item with the mouse; the open menu may be a step.
 void choose(frmMain& window, const QString& menu, const QString& item, const QString& step = {});
 [[nodiscard]] frmdatagrid& front_list(const frmMain& window);
-[[nodiscard]] DataGrid& front_grid(const frmMain& window);
+[[nodiscard]] data_grid& front_grid(const frmMain& window);
 /// Presses a tool of the list in front.
 void press(frmMain& window, const QString& tool);
 /// What a grid's rows show in the columns from `first` to `last`, joined by " / ".
-[[nodiscard]] QString rows_of(const DataGrid& grid, int first, int last, int row = 0);
+[[nodiscard]] QString rows_of(const data_grid& grid, int first, int last, int row = 0);
 /// The rows of the list in front from `row` on, the columns behind the key up to `last`.
 [[nodiscard]] QString shown(const frmMain& window, int last, int row = 0);
 /// The headings of the list in front that are seen.
