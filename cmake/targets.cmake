@@ -7,7 +7,8 @@ add_library(smscrm_options INTERFACE)
 target_include_directories(smscrm_options INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(
     smscrm_options
-    INTERFACE $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-Werror>
+    INTERFACE $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow>
+              $<$<AND:$<CXX_COMPILER_ID:GNU,Clang>,$<BOOL:${SMSCRM_WERROR}>>:-Werror>
               $<$<CXX_COMPILER_ID:MSVC>:/utf-8>
               $<$<BOOL:${SMSCRM_SANITIZE}>:-fsanitize=address,undefined;-fno-sanitize-recover=all;-fno-omit-frame-pointer>
               $<$<BOOL:${SMSCRM_FUZZ}>:-fsanitize=fuzzer-no-link>

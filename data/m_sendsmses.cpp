@@ -20,28 +20,23 @@ m_sendsms& m_sendsmses::Add(const QString& cname, const QDateTime& stime, const 
     if (contains(smsid)) {
         throw DataError(DataError::Kind::duplicate_key, key_of(smsid));
     }
-    places_.insert(smsid, next_place_);
-    const auto added = items_.emplace_hint(items_.end(), next_place_,
-                                           m_sendsms{.smsid = smsid,
-                                                     .mobile = mobile,
-                                                     .cid = cid,
-                                                     .sms = sms,
-                                                     .sendisok = sendisok,
-                                                     .rtime = rtime,
-                                                     .stime = stime,
-                                                     .cname = cname});
-    ++next_place_;
-    return added->second;
+    queued_.set(place_of(smsid));
+    return items_.emplace_back(m_sendsms{.smsid = smsid,
+                                         .mobile = mobile,
+                                         .cid = cid,
+                                         .sms = sms,
+                                         .sendisok = sendisok,
+                                         .rtime = rtime,
+                                         .stime = stime,
+                                         .cname = cname});
 }
 
 m_sendsms* m_sendsmses::Item(qsizetype index) {
-    const auto item = find(index);
-    return item == items_.end() ? nullptr : &item->second;
+    return index < 1 || index > Count() ? nullptr : &items_.at(static_cast<size_t>(index - 1));
 }
 
 m_sendsms* m_sendsmses::Item(const QString& key) {
-    const auto item = find(key);
-    return item == items_.end() ? nullptr : &item->second;
+    return Item(index_of(key));
 }
 
 qsizetype m_sendsmses::Count() const {
@@ -49,36 +44,32 @@ qsizetype m_sendsmses::Count() const {
 }
 
 void m_sendsmses::Remove(qsizetype index) {
-    remove(find(index));
+    if (const m_sendsms* item = Item(index)) {
+        queued_.reset(place_of(item->smsid));
+        items_.erase(std::next(items_.begin(), index - 1));
+    }
 }
 
 void m_sendsmses::Remove(const QString& key) {
-    remove(find(key));
+    Remove(index_of(key));
 }
 
 void m_sendsmses::keep_first(qsizetype count) {
     const auto first = std::next(items_.begin(), qMin(count, Count()));
     std::for_each(first, items_.end(),
-                  [this](const auto& item) { places_.remove(item.second.smsid); });
+                  [this](const m_sendsms& item) { queued_.reset(place_of(item.smsid)); });
     items_.erase(first, items_.end());
 }
 
-std::map<m_sendsmses::place, m_sendsms>::iterator m_sendsmses::find(qsizetype index) {
-    return index < 1 || index > Count() ? items_.end() : std::next(items_.begin(), index - 1);
-}
-
-std::map<m_sendsmses::place, m_sendsms>::iterator m_sendsmses::find(const QString& key) {
+/// Where the message with this key stands, from 1; 0 when there is none.
+qsizetype m_sendsmses::index_of(const QString& key) const {
     bool ok = false;
     const qint16 smsid = key.sliced(qMin<qsizetype>(1, key.size())).toShort(&ok);
     if (!ok || key_of(smsid) != key || !contains(smsid)) {
-        return items_.end();
+        return 0;
     }
-    return items_.find(places_.value(smsid));
-}
-
-void m_sendsmses::remove(std::map<place, m_sendsms>::iterator item) {
-    if (item != items_.end()) {
-        places_.remove(item->second.smsid);
-        items_.erase(item);
-    }
+    const auto item = std::find_if(items_.begin(), items_.end(), [smsid](const m_sendsms& queued) {
+        return queued.smsid == smsid;
+    });
+    return std::distance(items_.begin(), item) + 1;
 }

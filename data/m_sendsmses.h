@@ -5,9 +5,8 @@
 
 #include "data/m_sendsms.h"
 
-#include <QHash>
-
-#include <map>
+#include <bitset>
+#include <deque>
 
 /// The send queue: messages in the order of their arrival, each under the key "s" and its number,
 /// so that a message is in it at most once.
@@ -23,7 +22,7 @@ public:
     [[nodiscard]] m_sendsms* Item(qsizetype index);
     [[nodiscard]] m_sendsms* Item(const QString& key);
     [[nodiscard]] qsizetype Count() const;
-    /// For loops over the messages in order; each is paired with its place.
+    /// For loops over the messages in order.
     [[nodiscard]] auto begin() const { return items_.begin(); }
     [[nodiscard]] auto end() const { return items_.end(); }
     /// Removes one message; one that is not there is no error.
@@ -33,16 +32,12 @@ public:
     void keep_first(qsizetype count);
 
     [[nodiscard]] static QString key_of(qint16 smsid);
-    [[nodiscard]] bool contains(qint16 smsid) const { return places_.contains(smsid); }
+    [[nodiscard]] bool contains(qint16 smsid) const { return queued_.test(place_of(smsid)); }
 
 private:
-    using place = qint64; ///< grows with every message added, so the map keeps their order
+    [[nodiscard]] static size_t place_of(qint16 smsid) { return static_cast<quint16>(smsid); }
+    [[nodiscard]] qsizetype index_of(const QString& key) const;
 
-    [[nodiscard]] std::map<place, m_sendsms>::iterator find(qsizetype index);
-    [[nodiscard]] std::map<place, m_sendsms>::iterator find(const QString& key);
-    void remove(std::map<place, m_sendsms>::iterator item);
-
-    std::map<place, m_sendsms> items_;
-    QHash<qint16, place> places_;
-    place next_place_ = 0;
+    std::deque<m_sendsms> items_;
+    std::bitset<65536> queued_; ///< by number; there are 16 bits of them
 };

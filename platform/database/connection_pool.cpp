@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QPointer>
 #include <QTimer>
 
 #include <vector>
@@ -25,15 +26,19 @@ QHash<QString, std::shared_ptr<idle_list>>& idle_connections() {
 constexpr int fold_delay_ms = 1000;
 
 void fold_logs_later() {
-    static bool scheduled = false;
-    if (scheduled || QCoreApplication::instance() == nullptr) {
+    static QPointer<QTimer> timer;
+    if (QCoreApplication::instance() == nullptr) {
         return;
     }
-    scheduled = true;
-    QTimer::singleShot(fold_delay_ms, QCoreApplication::instance(), [] {
-        scheduled = false;
-        connection_pool::fold_logs();
-    });
+    if (timer.isNull()) {
+        timer = new QTimer(QCoreApplication::instance());
+        timer->setSingleShot(true);
+        timer->setInterval(fold_delay_ms);
+        QObject::connect(timer, &QTimer::timeout, &connection_pool::fold_logs);
+    }
+    if (!timer->isActive()) {
+        timer->start();
+    }
 }
 
 /// Back into the idle list; a connection that cannot be brought back to rest is closed instead.

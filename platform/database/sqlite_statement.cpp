@@ -45,15 +45,12 @@ void append_cell(row_store& store, sqlite3_stmt* row, int column) {
 sqlite_statement::sqlite_statement(sqlite3* connection, const QString& sql)
     : connection_(connection) {
     const QByteArray text = translate_jet_sql(sql).toUtf8();
-    // The engine reads up to a NUL and would run a statement that lost its end.
-    if (text.contains('\0')) {
-        throw DataError(DataError::Kind::statement, u"a statement holds a NUL character"_s);
-    }
     const char* tail = nullptr;
     if (sqlite3_prepare_v2(connection, text.constData(), static_cast<int>(text.size()), &handle_,
                            &tail) != SQLITE_OK) {
         raise_sqlite_error(connection);
     }
+    // It reads up to the end of the first statement, or up to a NUL.
     if (handle_ == nullptr || !is_blank(QByteArrayView(tail, text.constEnd()))) {
         sqlite3_finalize(handle_);
         throw DataError(DataError::Kind::statement, u"not exactly one statement"_s);

@@ -78,6 +78,11 @@ private slots:
         QCOMPARE(dialled_number(dialled), dialled);
     }
 
+    void a_text_with_a_quote_or_a_nul_is_no_literal() {
+        QCOMPARE(error_of([] { return text_literal(u"it's"_s); }), Kind::text_literal);
+        QCOMPARE(error_of([] { return text_literal(u"a\0"_s); }), Kind::text_literal);
+    }
+
     void a_fresh_database_lets_the_operator_in() {
         QCOMPARE(rows(u"select * from users"_s), u"1|valdrine|"_s);
         QCOMPARE(rows(u"select userid, funid from rights natural join Functions"_s), u"1|1 1|2"_s);

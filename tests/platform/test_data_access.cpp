@@ -12,6 +12,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using Kind = DataError::Kind;
@@ -126,6 +127,19 @@ private slots:
         QCOMPARE(run(u"select id from people"_s), u"2 3 4 10"_s);
     }
 
+    void what_was_written_is_on_disk_and_folded_into_the_file() {
+        QCOMPARE(run(u"pragma journal_mode"_s) + run(u"pragma synchronous"_s), u"wal2"_s);
+        for (const QString& cut : {u"delete from people\0 where id=1"_s, u"select 1\0"_s}) {
+            QCOMPARE(error_of([&] { run(cut); }), Kind::statement);
+        }
+        run(u"delete from people where id=1"_s);
+        QVERIFY(QFileInfo(path_ + u"-wal"_s).size() > 0);
+        auto* folding = QCoreApplication::instance()->findChild<QTimer*>();
+        QVERIFY(folding != nullptr && folding->isActive());
+        folding->start(0);
+        QTRY_COMPARE(QFileInfo(path_ + u"-wal"_s).size(), 0);
+    }
+
     void a_replaced_file_is_noticed() {
         run(u"delete from people where id=1"_s); // leaves a connection in the pool
         connection_pool::fold_logs();            // as happens by itself a moment later
@@ -163,6 +177,25 @@ private slots:
         }
         QFile::setPermissions(path_, QFileDevice::ReadOwner);
         QCOMPARE(exclusive_lease(path_).try_take(), QFileInfo(path_).isWritable()); // root may
+    }
+
+    void a_lease_that_can_only_be_read_is_not_taken() {
+        if (!QFileInfo(u"/"_s).isWritable()) {
+            QSKIP("its owner could write it again; only root can play another user");
+        }
+        const QString lease = path_ + u"-lease"_s;
+        QVERIFY(exclusive_lease(path_).try_take());
+        QFile::setPermissions(folder_.path(), QFileDevice::Permissions(0x7755));
+        QFile::setPermissions(path_, QFileDevice::Permissions(0x6666));
+        QFile::setPermissions(lease, QFileDevice::Permissions(0x6444));
+        const auto lease_by_nobody = [this] {
+            return QProcess::execute(u"setpriv"_s,
+                                     {u"--reuid=65534"_s, u"--clear-groups"_s,
+                                      QCoreApplication::applicationFilePath(), u"--lease"_s, path_});
+        };
+        QCOMPARE(lease_by_nobody(), 0);
+        QFile::setPermissions(lease, QFileDevice::Permissions(0x6666));
+        QCOMPARE(lease_by_nobody(), 1);
     }
 
     void a_lease_that_cannot_be_taken_is_told_once() {
