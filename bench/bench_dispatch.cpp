@@ -207,7 +207,7 @@ public:
                .twin = twin_.rate(),
                .unit = "/s",
                .kind = bound::ratio_at_least,
-               .limit = 0.7});
+               .limit = 0.85});
     }
 
     [[nodiscard]] double ours() const { return ours_.rate(); }

@@ -87,7 +87,7 @@ void bench_start(const bench_store& store) {
            .ours = took.ours,
            .twin = took.twin,
            .kind = bound::ratio_at_most,
-           .limit = 3});
+           .limit = 2});
 }
 
 constexpr int watched_seconds = 11;

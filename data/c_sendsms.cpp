@@ -15,22 +15,25 @@ void c_sendsms::openrs(Recordset& rs) const {
 
 void c_sendsms::searchsms(m_sendsmses& queue) const {
     const QDateTime moment = now();
-    Recordset rs;
-    open_detached(rs, u"SELECT  * From vwsendsms where sendisok=0 and stime < #%1#"_s.arg(
-                          fmtdatetime(moment)));
-    // By position: this runs over every pending message at every poll.
-    const row_store& rows = rs.store();
-    const qsizetype id = rs.column(u"smsid");
-    const qsizetype mobile = rs.column(u"mobile");
-    const qsizetype sms = rs.column(u"sms");
     const QDateTime today = moment.date().startOfDay();
-    for (qsizetype row = 0; row < rows.rows(); ++row) {
-        const qint16 smsid = to_int16(rows.value(row, id));
-        if (!queue.contains(smsid)) {
-            queue.Add({}, today, today, false, rows.text(row, sms), 1, rows.text(row, mobile),
-                      smsid);
+    int id = -1;
+    int mobile = -1;
+    int sms = -1;
+    // One by one: this runs over every pending message at every poll.
+    const auto take = [&](const physical_database::result_row& row) {
+        if (id < 0) {
+            id = row.column(u"smsid");
+            mobile = row.column(u"mobile");
+            sms = row.column(u"sms");
         }
-    }
+        const qint16 smsid = to_int16(row.value(id));
+        if (!queue.contains(smsid)) {
+            queue.Add({}, today, today, false, row.text(sms), 1, row.text(mobile), smsid);
+        }
+    };
+    for_each_row(
+        u"SELECT  * From vwsendsms where sendisok=0 and stime < #%1#"_s.arg(fmtdatetime(moment)),
+        take);
 }
 
 std::optional<m_sendsms> c_sendsms::getrec(qint16 smsid) const {

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -14,25 +15,27 @@ QString m_sendsmses::key_of(qint16 smsid) {
     return u's' + QString::number(smsid);
 }
 
-m_sendsms& m_sendsmses::Add(const QString& cname, const QDateTime& stime, const QDateTime& rtime,
-                            bool sendisok, const QString& sms, qint16 cid, const QString& mobile,
-                            qint16 smsid, const QString& /*sKey*/) {
+m_sendsms& m_sendsmses::Add(QString cname, const QDateTime& stime, const QDateTime& rtime,
+                            bool sendisok, QString sms, qint16 cid, QString mobile, qint16 smsid,
+                            const QString& /*sKey*/) {
     if (contains(smsid)) {
         throw DataError(DataError::Kind::duplicate_key, key_of(smsid));
     }
     queued_.set(place_of(smsid));
-    return items_.emplace_back(m_sendsms{.smsid = smsid,
-                                         .mobile = mobile,
-                                         .cid = cid,
-                                         .sms = sms,
-                                         .sendisok = sendisok,
-                                         .rtime = rtime,
-                                         .stime = stime,
-                                         .cname = cname});
+    m_sendsms& added = items_.emplaceBack();
+    added.smsid = smsid;
+    added.mobile = std::move(mobile);
+    added.cid = cid;
+    added.sms = std::move(sms);
+    added.sendisok = sendisok;
+    added.rtime = rtime;
+    added.stime = stime;
+    added.cname = std::move(cname);
+    return added;
 }
 
 m_sendsms* m_sendsmses::Item(qsizetype index) {
-    return index < 1 || index > Count() ? nullptr : &items_.at(static_cast<size_t>(index - 1));
+    return index < 1 || index > Count() ? nullptr : &items_[index - 1];
 }
 
 m_sendsms* m_sendsmses::Item(const QString& key) {

@@ -5,8 +5,9 @@
 
 #include "data/m_sendsms.h"
 
+#include <QList>
+
 #include <bitset>
-#include <deque>
 
 /// The send queue: messages in the order of their arrival, each under the key "s" and its number,
 /// so that a message is in it at most once.
@@ -14,9 +15,8 @@ class m_sendsmses {
 public:
     /// Appends a message and returns it. Its key is made from `smsid`, whatever `sKey` says. Throws
     /// DataError (duplicate_key) when it is in the queue already.
-    m_sendsms& Add(const QString& cname, const QDateTime& stime, const QDateTime& rtime,
-                   bool sendisok, const QString& sms, qint16 cid, const QString& mobile,
-                   qint16 smsid, const QString& sKey = {});
+    m_sendsms& Add(QString cname, const QDateTime& stime, const QDateTime& rtime, bool sendisok,
+                   QString sms, qint16 cid, QString mobile, qint16 smsid, const QString& sKey = {});
 
     /// The message at a position from 1, or under a key; nullptr when there is none.
     [[nodiscard]] m_sendsms* Item(qsizetype index);
@@ -38,6 +38,6 @@ private:
     [[nodiscard]] static size_t place_of(qint16 smsid) { return static_cast<quint16>(smsid); }
     [[nodiscard]] qsizetype index_of(const QString& key) const;
 
-    std::deque<m_sendsms> items_;
+    QList<m_sendsms> items_;
     std::bitset<65536> queued_; ///< by number; there are 16 bits of them
 };

@@ -47,6 +47,9 @@ protected:
     /// Opens the caller's record set on a detached snapshot. Throws DataError.
     void open_detached(Recordset& rs, const QString& statement) const;
 
+    /// Hands over the rows of a query one by one. Throws DataError.
+    void for_each_row(const QString& statement, const physical_database::row_visitor& visit) const;
+
     /// The first row of a query as a record; nothing when there is none or on any error.
     template <std::invocable<const Recordset&> Read>
     [[nodiscard]] auto read_one(const QString& statement, Read read) const

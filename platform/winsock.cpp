@@ -5,21 +5,21 @@
 
 #include <QNetworkProxy>
 
+#include <utility>
+
 namespace {
 
-/// The most bytes of one arrival, far above any message. Left to the system, a flood would gather
-/// tens of megabytes while the program is busy, and handling them takes some fifteen times their
-/// size.
+/// The most bytes of one arrival, far above any message. A flood is otherwise handled in pieces of
+/// megabytes, and handling them takes some fifteen times their size.
 constexpr qint64 most_at_once = 1'048'576;
 
 } // namespace
 
 Winsock::Winsock(QObject* parent) : QObject(parent) {
-    socket_.setReadBufferSize(most_at_once);
     socket_.setProxy(QNetworkProxy::NoProxy); // one is for web pages
     connect(&socket_, &QTcpSocket::stateChanged, this, &Winsock::follow);
     connect(&socket_, &QTcpSocket::errorOccurred, this, &Winsock::fail);
-    connect(&socket_, &QTcpSocket::readyRead, this, &Winsock::DataArrival);
+    connect(&socket_, &QTcpSocket::readyRead, this, &Winsock::receive);
 }
 
 void Winsock::Connect() {
@@ -29,11 +29,14 @@ void Winsock::Connect() {
     if (RemoteHost.isEmpty() || RemotePort < 1 || RemotePort > 65535) {
         throw Error("no host, or a port out of range");
     }
-    socket_.connectToHost(RemoteHost, static_cast<quint16>(RemotePort));
+    // With a buffer every write would wake the event loop once more, to find it written already.
+    socket_.connectToHost(RemoteHost, static_cast<quint16>(RemotePort),
+                          QIODevice::ReadWrite | QIODevice::Unbuffered);
 }
 
 void Winsock::Close() {
     socket_.abort();
+    arrived_.clear();
     state_ = StateEnum::closed;
 }
 
@@ -41,12 +44,26 @@ void Winsock::SendData(const QByteArray& bytes) {
     if (state_ != StateEnum::connected) {
         throw Error("the socket is not connected");
     }
-    socket_.write(bytes);
-    socket_.flush();
+    if (socket_.write(bytes) < 0) {
+        fail(socket_.error());
+    }
 }
 
 QByteArray Winsock::GetData() {
-    return socket_.readAll();
+    return std::exchange(arrived_, {});
+}
+
+/// An end of the connection is only told to whoever reads, even when nothing is there.
+void Winsock::receive() {
+    const QByteArray bytes =
+        socket_.read(qBound<qint64>(1, socket_.bytesAvailable(), most_at_once));
+    if (socket_.state() == QAbstractSocket::UnconnectedState) {
+        fail(socket_.error());
+    }
+    if (!bytes.isEmpty()) {
+        arrived_ += bytes;
+        emit DataArrival();
+    }
 }
 
 void Winsock::follow(QAbstractSocket::SocketState state) {

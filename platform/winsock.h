@@ -45,17 +45,19 @@ public:
     void Close();
     /// Hands the bytes to the system in one write. Throws Error unless connected.
     void SendData(const QByteArray& bytes);
-    /// Everything that has arrived; of a flood, its next megabyte, and DataArrival follows for
-    /// more.
+    /// Everything that has arrived and was not taken yet; of a flood, its next megabyte, and
+    /// DataArrival follows for more.
     [[nodiscard]] QByteArray GetData();
 
 signals:
     void DataArrival();
 
 private:
+    void receive();
     void follow(QAbstractSocket::SocketState state);
     void fail(QAbstractSocket::SocketError error);
 
     StateEnum state_ = StateEnum::closed;
     QTcpSocket socket_;
+    QByteArray arrived_;
 };

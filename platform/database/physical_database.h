@@ -8,6 +8,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <functional>
 #include <memory>
 
 /// One physical connection to a database, whatever engine stands behind it. It waits for a lock of
@@ -48,6 +49,22 @@ public:
         [[nodiscard]] virtual row_store rows(const QVariantList& values) = 0;
     };
 
+    /// One row while it is read. Columns count from 0.
+    class result_row {
+    public:
+        result_row() = default;
+        virtual ~result_row() = default;
+        Q_DISABLE_COPY_MOVE(result_row)
+
+        /// The position of a column by its name without regard to case, or -1.
+        [[nodiscard]] virtual int column(QStringView name) const = 0;
+        /// qlonglong, double, QString, or an invalid QVariant for Null.
+        [[nodiscard]] virtual QVariant value(int column) const = 0;
+        /// Any value as text; Null is empty.
+        [[nodiscard]] virtual QString text(int column) const = 0;
+    };
+    using row_visitor = std::function<void(const result_row&)>;
+
     physical_database() = default;
     virtual ~physical_database() = default;
     Q_DISABLE_COPY_MOVE(physical_database)
@@ -56,6 +73,8 @@ public:
     /// any text, also one with quotes in it.
     [[nodiscard]] virtual row_store rows(const QString& statement,
                                          const QVariantList& values = {}) = 0;
+    /// Hands over the rows of exactly one statement one by one and keeps none.
+    virtual void for_each_row(const QString& statement, const row_visitor& visit) = 0;
     /// Runs exactly one statement to its end and drops its rows.
     virtual void execute(const QString& statement, const QVariantList& values = {}) = 0;
     /// Runs several statements separated by ";" as they stand, in the engine's own SQL.

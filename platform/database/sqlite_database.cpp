@@ -123,6 +123,10 @@ row_store sqlite_database::rows(const QString& statement, const QVariantList& va
     return sqlite_statement(handle(), statement).rows(values);
 }
 
+void sqlite_database::for_each_row(const QString& statement, const row_visitor& visit) {
+    sqlite_statement(handle(), statement).for_each_row(visit);
+}
+
 void sqlite_database::execute(const QString& statement, const QVariantList& values) {
     const qsizetype number = start_of_last_number(statement);
     if (number == statement.size() || !values.isEmpty()) {

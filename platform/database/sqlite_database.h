@@ -18,6 +18,7 @@ public:
 
     [[nodiscard]] row_store rows(const QString& statement,
                                  const QVariantList& values = {}) override;
+    void for_each_row(const QString& statement, const row_visitor& visit) override;
     void execute(const QString& statement, const QVariantList& values = {}) override;
     void execute_script(const char* script) override;
     [[nodiscard]] std::unique_ptr<prepared_statement> prepare(const QString& statement) override;

@@ -40,6 +40,42 @@ void append_cell(row_store& store, sqlite3_stmt* row, int column) {
     }
 }
 
+/// The row that a statement has come to.
+class sqlite_row final : public physical_database::result_row {
+public:
+    explicit sqlite_row(sqlite3_stmt* statement) : statement_(statement) {}
+
+    [[nodiscard]] int column(QStringView name) const override {
+        int found = sqlite3_column_count(statement_) - 1;
+        while (found >= 0 && QString::fromUtf8(sqlite3_column_name(statement_, found))
+                                     .compare(name, Qt::CaseInsensitive) != 0) {
+            --found;
+        }
+        return found;
+    }
+
+    [[nodiscard]] QVariant value(int column) const override {
+        switch (sqlite3_column_type(statement_, column)) {
+        case SQLITE_INTEGER:
+            return qlonglong{sqlite3_column_int64(statement_, column)};
+        case SQLITE_FLOAT:
+            return sqlite3_column_double(statement_, column);
+        case SQLITE_NULL:
+            return {};
+        default:
+            return text(column);
+        }
+    }
+
+    [[nodiscard]] QString text(int column) const override {
+        const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement_, column));
+        return QString::fromUtf8(bytes, sqlite3_column_bytes(statement_, column));
+    }
+
+private:
+    sqlite3_stmt* statement_;
+};
+
 } // namespace
 
 sqlite_statement::sqlite_statement(sqlite3* connection, const QString& sql)
@@ -101,6 +137,13 @@ void sqlite_statement::run(const QVariantList& values) {
     const auto rest = qScopeGuard([this] { sqlite3_reset(handle_); }); // what is kept holds no lock
     bind(values);
     while (step()) {
+    }
+}
+
+void sqlite_statement::for_each_row(const physical_database::row_visitor& visit) {
+    const sqlite_row row(handle_);
+    while (step()) {
+        visit(row);
     }
 }
 

@@ -19,6 +19,9 @@ public:
     void run(const QVariantList& values) override;
     [[nodiscard]] row_store rows(const QVariantList& values) override;
 
+    /// Hands over its rows one by one.
+    void for_each_row(const physical_database::row_visitor& visit);
+
     [[nodiscard]] sqlite3_stmt* handle() const noexcept { return handle_; }
 
 private:
