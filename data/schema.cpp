@@ -47,13 +47,14 @@ content content_of(const QString& path) {
     return version == newest_schema_version() ? content::fitting : content::older;
 }
 
+/// `step` is a number, or "*" for any.
 QString copy_name(const QString& path, const QString& step) {
-    return path + u"-before-step-"_s + step;
+    return QFileInfo(path).canonicalFilePath() + u"-before-step-"_s + step;
 }
 
 /// Copies the database beside itself, whole and on disk, and takes older copies away.
 void keep_copy(physical_database& database, const QString& path, int step) {
-    const QString place = copy_name(path, QString::number(step));
+    const QString place = copy_before_step(path, step);
     const QString part = place + u".part"_s;
     QFile::remove(part);
     {
@@ -98,19 +99,26 @@ int schema_version_of(physical_database& database) {
     return qMax(database.schema_version(), 1);
 }
 
+QString copy_before_step(const QString& path, int step) {
+    return copy_name(path, QString::number(step));
+}
+
 int upgrade_database(const QString& path) {
-    const auto database = open_database(path);
-    const int found = schema_version_of(*database);
+    return upgrade_database(*open_database(path), path);
+}
+
+int upgrade_database(physical_database& database, const QString& path) {
+    const int found = schema_version_of(database);
     if (found > newest_schema_version()) {
         throw DataError(DataError::Kind::newer_version, path);
     }
     if (found < newest_schema_version()) {
-        keep_copy(*database, QFileInfo(path).canonicalFilePath(), found + 1);
+        keep_copy(database, path, found + 1);
     }
     for (int step = found + 1; step <= newest_schema_version(); ++step) {
-        transaction stepping(*database);
-        if (schema_version_of(*database) < step) { // another start may have been quicker
-            run_schema_step(*database, step);
+        transaction stepping(database);
+        if (schema_version_of(database) < step) { // another start may have been quicker
+            run_schema_step(database, step);
         }
         stepping.commit();
     }

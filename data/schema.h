@@ -20,10 +20,16 @@ void fill_database(physical_database& database);
 [[nodiscard]] int schema_version_of(physical_database& database);
 
 /// Runs the steps of the schema that the database at `path` lacks, each in a transaction of its
-/// own, when a copy lies beside it as "PATH-before-step-N" (of several the newest is kept). Returns
-/// the version that it had. Throws DataError: newer_version when it is too new for this program,
-/// and when it cannot be read or written.
+/// own, when a copy lies beside it as `copy_before_step` says (of several the newest is kept).
+/// Returns the version that it had. Throws DataError: newer_version when it is too new for this
+/// program, and when it cannot be read or written.
 int upgrade_database(const QString& path);
+
+/// The same through a connection that is open to it already.
+int upgrade_database(physical_database& database, const QString& path);
+
+/// Where the database at `path` is kept as it was before that step; of a link, beside its end.
+[[nodiscard]] QString copy_before_step(const QString& path, int step);
 
 /// Makes the database that `connection_string` names when its file is missing or holds no table
 /// yet, and upgrades an older one. A file that cannot be read is left for its first user to report.

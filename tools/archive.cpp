@@ -9,6 +9,7 @@
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/new_file.h"
+#include "tools/office_database.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -176,7 +177,7 @@ int run(const QCommandLineParser& arguments) {
     const QString place = arguments.isSet(u"to"_s)
                               ? required(arguments, u"to"_s)
                               : u"%1-before-%2.csv"_s.arg(file, before.toString(Qt::ISODate));
-    const auto database = open_database(file, physical_database::open_mode::existing, 0);
+    const auto database = open_office(file, office_use::writing, 0);
     transaction moving = closing_up::keep_to_oneself(*database, file);
     const QList<message_table> tables = message_tables();
     QList<selection> selections;

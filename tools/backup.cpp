@@ -19,7 +19,8 @@ FILE held when the copying began. TO is one whole file, readable by its owner al
 open in FILE's place. It is checked before it gets its name; until then it is called TO.smsdb-part, and
 TO.smsdb-lock keeps a second run away. What a killed run leaves of these the next one replaces.
 
-A FILE that is damaged or holds not all tables of this system is not copied (see smsdb check).
+A FILE that is damaged, holds not all tables of this system or is of a newer version is not copied (see
+smsdb check). One of an older version is copied as it is.
 To go back to a backup use smsdb restore.
 
 Exit status: 0 copied; 2 not copied.

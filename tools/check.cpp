@@ -22,11 +22,14 @@ every table how many rows it holds, the highest number given out so far and how 
 Notes:
   - history (a message, a group send, a line of the log) names what was deleted since
   - a right or a membership names what is not there (smsdb tidy takes such rows out)
+  - a table, a view, an index or a trigger is none of this system's
   - a telephone number is not written as it is dialled (smsdb tidy --numbers mends it), or is none
 
 Findings:
   - the file is damaged
-  - a table, a view, a column or the definition of a list is missing
+  - FILE is of an older version (smsdb upgrade brings it up to date) or of a newer one
+  - a table, a view, an index, a column or the definition of a list is missing, or a table, a view or an
+    index is defined otherwise than in a fresh database
   - 80 % or more of a table's numbers are given out (smsdb archive and smsdb renumber start some over)
   - a value is no 16-bit number, which no screen can read
   - a row names another that does not exist, and it is neither of the above

@@ -38,6 +38,7 @@ struct command {
 
 [[nodiscard]] command check_command();
 [[nodiscard]] command tidy_command();
+[[nodiscard]] command upgrade_command();
 [[nodiscard]] command create_command();
 [[nodiscard]] command backup_command();
 [[nodiscard]] command restore_command();

@@ -49,6 +49,8 @@ QString describe(const DataError& error, const QString& file) {
         return u"%1: is no database of this system or is damaged: %2"_s.arg(file, error.detail());
     case DataError::Kind::old_format:
         return u"%1: is a database of the old format, which has to be imported first"_s.arg(file);
+    case DataError::Kind::newer_version:
+        return u"%1: was made by a newer version of this system"_s.arg(file);
     case DataError::Kind::locked:
         return u"%1: is in use by another program"_s.arg(file);
     case DataError::Kind::disk:

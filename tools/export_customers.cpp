@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/csv.h"
-#include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/customer_sheet.h"
 #include "tools/new_file.h"
+#include "tools/office_database.h"
 
 #include <QCommandLineParser>
 
@@ -29,7 +29,7 @@ Exit status: 0 written; 2 not written.
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().at(0);
     const QString place = arguments.positionalArguments().at(1);
-    const auto database = open_database(file, physical_database::open_mode::read_only);
+    const auto database = open_office(file, office_use::reading);
     const QList<QStringList> customers = database->texts(
         u"SELECT cname, mobile, sex, birth, phone, memo FROM customer ORDER BY cid"_s);
     QStringList headings;

@@ -6,6 +6,7 @@
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/inspection.h"
+#include "tools/office_database.h"
 
 #include <QCommandLineParser>
 
@@ -61,7 +62,7 @@ int run(const QCommandLineParser& arguments) {
     if (name.isEmpty() || name.contains(u'\'')) {
         throw failure(u"%1: nobody can log in under this name"_s.arg(shown(name)));
     }
-    const auto database = open_database(file);
+    const auto database = open_office(file, office_use::writing);
     transaction granting(*database);
     const qint64 userid = operator_named(*database, name);
     grant_everything(*database, userid);

@@ -9,6 +9,7 @@
 #include "tools/console.h"
 #include "tools/customer_sheet.h"
 #include "tools/inspection.h"
+#include "tools/office_database.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -215,10 +216,11 @@ QString class_of(const QCommandLineParser& arguments) {
 /// The database, or for a trial a copy of it in memory, which keeps nobody waiting.
 std::unique_ptr<physical_database> opened(const QString& file, bool is_trial) {
     if (!is_trial) {
-        return open_database(file);
+        return open_office(file, office_use::writing);
     }
     auto copy = open_database({}, physical_database::open_mode::memory);
     open_database(file, physical_database::open_mode::read_only)->copy_to(*copy);
+    require_office(*copy, file, office_use::writing);
     return copy;
 }
 

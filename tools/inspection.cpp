@@ -9,6 +9,7 @@
 #include "tools/console.h"
 #include "tools/references.h"
 #include "tools/row_faults.h"
+#include "tools/schema_differences.h"
 #include "tools/stored_numbers.h"
 
 using namespace Qt::StringLiterals;
@@ -37,7 +38,7 @@ private:
         report_rows(what, table, condition, found_.findings);
     }
 
-    void look_for(const QString& name, const QString& kind);
+    void look_at_schema();
     void look_at_key(const QString& table, const QString& key);
     void look_at_numbers(const QString& table);
     void look_at_reference(const reference& checked);
@@ -83,35 +84,11 @@ void inspector::report_rows(const QString& what, QStringView table, const QStrin
         among);
 }
 
-QStringList columns_of(physical_database& database, const QString& table) {
-    return database.column(u"SELECT lower(name) FROM pragma_table_info('%1')"_s.arg(table));
-}
-
-void inspector::look_for(const QString& name, const QString& kind) {
-    if (database_.number(
-            u"SELECT count(*) FROM sqlite_master WHERE type = '%1' AND name = '%2' COLLATE NOCASE"_s
-                .arg(kind, name)) == 0) {
-        complete_ = false;
-        report(u"%1 %2 is missing"_s.arg(kind, name));
-        return;
-    }
-    QStringList there;
-    try {
-        there = columns_of(database_, name);
-    } catch (const DataError& error) {
-        if (error.kind() != DataError::Kind::statement) {
-            throw;
-        }
-        complete_ = false; // a view over something that is missing
-        report(u"%1 %2 cannot be read: %3"_s.arg(kind, name, error.detail()));
-        return;
-    }
-    for (const QString& column : columns_of(*fresh_, name)) {
-        if (!there.contains(column)) {
-            complete_ = false;
-            report(u"column %1.%2 is missing"_s.arg(name, column));
-        }
-    }
+void inspector::look_at_schema() {
+    const schema_differences differences = compare_schemas(database_, *fresh_);
+    found_.findings += differences.findings;
+    found_.notes += differences.notes;
+    complete_ = differences.is_complete;
 }
 
 void inspector::look_at_key(const QString& table, const QString& key) {
@@ -193,11 +170,7 @@ inspection inspector::inspect() {
         sound_ = false;
         report(u"damaged: %1"_s.arg(fault));
     }
-    const QList<QStringList> objects =
-        fresh_->texts(u"SELECT name, type FROM sqlite_master WHERE type IN ('table', 'view')"_s);
-    for (const QStringList& object : objects) {
-        attempt([&] { look_for(object.at(0), object.at(1)); });
-    }
+    attempt([&] { look_at_schema(); });
     const QList<QStringList> keys = fresh_->texts(
         u"SELECT m.name, p.name FROM sqlite_master m, pragma_table_info(m.name) p WHERE m.type = 'table' AND p.pk = 1"_s);
     for (const QStringList& key : keys) {
@@ -206,10 +179,8 @@ inspection inspector::inspect() {
     if (found_.numberings.isEmpty() && sound_) {
         throw DataError(DataError::Kind::not_a_database, u"it holds no table of this system"_s);
     }
-    for (const QStringList& object : objects) {
-        if (object.at(1) == u"table") {
-            attempt([&] { look_at_numbers(object.at(0)); });
-        }
+    for (const QString& table : fresh_->table_names()) {
+        attempt([&] { look_at_numbers(table); });
     }
     for (const reference& checked : references()) {
         attempt([&] { look_at_reference(checked); });

@@ -23,6 +23,7 @@ namespace {
 const auto& commands() {
     static const std::array all{check_command(),
                                 tidy_command(),
+                                upgrade_command(),
                                 create_command(),
                                 backup_command(),
                                 restore_command(),

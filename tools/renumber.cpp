@@ -5,6 +5,7 @@
 #include "tools/closing_up.h"
 #include "tools/command.h"
 #include "tools/console.h"
+#include "tools/office_database.h"
 
 #include <QCommandLineParser>
 
@@ -28,7 +29,7 @@ Exit status: 0 done; 2 not done, and every number is as it was.
 
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().first();
-    const auto database = open_database(file, physical_database::open_mode::existing, 0);
+    const auto database = open_office(file, office_use::writing, 0);
     transaction renumbering = closing_up::keep_to_oneself(*database, file);
     const QStringList next = closing_up::close_up(*database);
     database->write_ahead();

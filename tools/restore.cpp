@@ -29,6 +29,7 @@ that. The new file is checked before it takes FILE's place. Whenever the command
 the old one or the whole new one; then run it again.
 
 A BACKUP that is damaged, holds not all tables of this system or was made by a newer version is refused.
+One of an older version is restored as it is; the next client that starts upgrades it (see smsdb upgrade).
 
 Exit status: 0 restored; 2 not restored, and FILE is as it was.
 )";

@@ -5,6 +5,7 @@
 #include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
+#include "tools/office_database.h"
 #include "tools/references.h"
 #include "tools/stored_numbers.h"
 
@@ -71,7 +72,7 @@ QString mend_numbers(physical_database& database) {
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().first();
     const bool is_trial = arguments.isSet(u"dry-run"_s);
-    const auto database = open_database(file);
+    const auto database = open_office(file, office_use::writing);
     transaction tidying(*database);
     const QString told =
         arguments.isSet(u"numbers"_s) ? mend_numbers(*database) : remove_leftovers(*database);

@@ -82,13 +82,20 @@ private slots:
             << u"logged in"_s << 120
             << u"select count(*) - 5000 * (select count(*) from gsendsms) from sendsms"_s;
         QTest::newRow("start") << u"begin"_s << 30 << u"select count(*) from viewitems"_s;
+        QTest::newRow("upgrade") // the old one or the new
+            << u"begin"_s << 60
+            << u"select user_version > 1 = (select count(*) from sqlite_master where name = 'sendsms_queue') from pragma_user_version"_s;
     }
 
     void killed_while_writing() {
         QFETCH(QString, begins);
         QFETCH(int, takes_ms);
         QFETCH(QString, constant);
-        const auto job = QString::fromLatin1(QTest::currentDataTag());
+        const auto tag = QString::fromLatin1(QTest::currentDataTag());
+        const QString job = tag == u"group" ? tag : u"start"_s;
+        QFile old_office(QString::fromUtf8(OFFICE));
+        QVERIFY(old_office.open(QIODevice::ReadOnly));
+        const QByteArray old_content = old_office.readAll();
         workplace w(0);
         w.execute(u"insert into customer (mobile) with recursive n(i) as "
                   "(values (1) union all select i + 1 from n where i < 5000) select i from n"_s);
@@ -97,11 +104,16 @@ private slots:
             const QTemporaryDir fresh;
             const QString folder = job == u"start" ? fresh.path() : w.folder();
             connection_pool::clear();
+            if (tag == u"upgrade") {
+                open_database(folder + u"/sms.old.mdb"_s, physical_database::open_mode::create)
+                    ->execute_script(old_content.constData());
+            }
             process struck(u"/fault_client"_s, {folder, job});
             QVERIFY(struck.says(begins));
             w.kills += struck.end(1 + chance_.bounded(takes_ms));
-            QVERIFY(process(u"/fault_client"_s, {folder, job}).says(u"done"_s));
             strconn = make_strconn(folder);
+            QVERIFY(tag != u"upgrade" || (w.is_sound() && w.value(constant) == expected));
+            QVERIFY(process(u"/fault_client"_s, {folder, job}).says(u"done"_s));
             QVERIFY(w.is_sound());
             QCOMPARE(w.value(constant), expected);
             w.execute(u"delete from sendsms"_s);

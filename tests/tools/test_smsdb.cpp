@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "data/schema.h"
 #include "data/strconn.h"
 #include "platform/database/connection.h"
 #include "platform/database/connection_pool.h"
 #include "tests/tools/smsdb_shell.h"
 
+#include <QFile>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -27,9 +29,9 @@ private slots:
         QTest::addColumn<QString>("line");
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("answer");
-        const auto answers = [](const char* sql, const char* line, int status,
+        const auto answers = [](const char* sql, const QByteArray& line, int status,
                                 const QString& told) {
-            QTest::addRow("%s | %s", sql, line)
+            QTest::addRow("%s | %s", sql, line.constData())
                 << QString::fromUtf8(sql) << QString::fromUtf8(line) << status << told;
         };
         const auto finds = [&answers](const char* sql, const QString& found) {
@@ -52,6 +54,14 @@ private slots:
         finds("update parameters set port=70000", u"parameters.port holds no 16-bit"_s);
         finds("delete from parameters", u"parameters: holds 0 rows"_s);
         finds("drop view vwgroup", u"view vwgroup is missing"_s);
+        finds("drop view vwgroup; create view vwgroup as select *,'' as cname,'' as cusname,'' as "
+              "mobile from cgroup",
+              u"finding: view vwgroup is defined otherwise"_s);
+        finds("drop index customer_mobile", u"finding: index customer_mobile is missing"_s);
+        finds("alter table users add a", u"finding: table users is defined otherwise"_s);
+        finds("create index a on users (username)", u"note: index a is none of this system's"_s);
+        finds("pragma user_version = 1", u"finding: is of an older version, 1 and not "_s);
+        finds("pragma user_version = 99", u"finding: is of a newer version, 99 and not "_s);
         finds("alter table customer drop memo", u"column customer.memo is missing"_s);
         finds("update sqlite_sequence set seq=26214 where name='users'", u"number 26214 of"_s);
         QTest::newRow("lease")
@@ -77,7 +87,6 @@ private slots:
         refuses("smsdb backup FILE DIR/full", u"reading or writing failed"_s);
         refuses("smsdb restore DIR/text FILE", u"/text: is no database"_s);
         refuses("smsdb restore DIR/empty FILE", u"it has no table smsmodels"_s);
-        refuses("smsdb restore DIR/newer FILE", u"a newer version"_s);
         refuses("smsdb restore DIR/none FILE", u"there is no such file"_s);
         refuses("smsdb restore FILE DIR/link", u"is the database itself"_s);
         refuses("smsdb grant FILE \"o'b\"", u"nobody can log in"_s);
@@ -86,6 +95,19 @@ private slots:
         refuses("smsdb archive FILE --before 2024-01-02 --to DIR/text", u"exists"_s);
         refuses("smsdb archive FILE --before 2024-01-02 --to DIR/full", u"too large"_s);
         refuses("smsdb import-customers DIR/large FILE", u": reading or writing failed"_s);
+        // Who would write refuses both; who reads, the newer one.
+        const QByteArray write =
+            "(smsdb grant FILE a; for c in tidy renumber 'archive --before 2024-01-02' "
+            "'import-customers DIR/csv' 'import-customers --dry-run DIR/csv'; do smsdb $c FILE; "
+            "done";
+        answers("pragma user_version = 1",
+                write + ") 2>&1 | grep -c ' 1 and not .*; upgrade it first'", 0, u"6\n"_s);
+        answers(
+            "pragma user_version = 99",
+            write +
+                "; for c in export-customers backup; do smsdb $c FILE DIR/new; done; smsdb "
+                "restore FILE link; smsdb upgrade FILE) 2>&1 | grep -c 'made by a newer version'",
+            0, u"10\n"_s);
         // Whoever is not told does not have it done.
         for (const char* line :
              {"smsdb create DIR/new >/dev/full", "smsdb backup DIR/other DIR/new >/dev/full",
@@ -100,13 +122,13 @@ private slots:
         QFETCH(QString, sql);
         QFETCH(QString, line);
         QFETCH(QString, answer);
-        test_database::execute(sql);
+        for (const QString& statement : sql.split(u';')) {
+            test_database::execute(statement);
+        }
         connection_pool::clear(); // or reading the file would drop the locks
         QCOMPARE(
             run(u"cd DIR; echo text >text; : >empty; : >gone-wal; ln -s FILE link; smsdb create "
                 u"other >&-; "
-                "cp other newer; printf '\\0\\0\\0\\11' | dd of=newer bs=1 seek=60 conv=notrunc "
-                "2>&-; "
                 "printf '手机\\n138\\n' >csv; (echo 手机,备注; "
                 "yes $(printf %0900d) | head -n 550 | nl -s , -v 200 -w 1) >large; md5sum *"_s),
             0);
@@ -166,6 +188,29 @@ private slots:
                 "sms.old.mdb.before-restore\n"),
             told_);
         QCOMPARE(test_database::value(u"select count(*) from customer"_s).toInt(), 1);
+    }
+
+    void upgrades() {
+        connection_pool::clear();
+        QFile office(u"" FIXTURES "/office-0.1.0.sql"_s);
+        QVERIFY(office.open(QIODevice::ReadOnly) && QFile::remove(database_->path()));
+        open_database(database_->path(), physical_database::open_mode::create)
+            ->execute_script(office.readAll().constData());
+        auto client = open_database(database_->path());
+        QCOMPARE(schema_version_of(*client), 1);
+        const QString upgrade = u"smsdb upgrade FILE"_s;
+        QCOMPARE(run(upgrade), 2);
+        QVERIFY2(told_.contains("is open in a client"), told_);
+        client.reset();
+        QCOMPARE(run(u"cd DIR; smsdb export-customers FILE c && smsdb backup FILE b && "
+                     "smsdb restore b r; smsdb upgrade FILE >/dev/full; ls -A"_s),
+                 0);
+        QCOMPARE(told_.count(": is of an older version, 1 and not "), 3);
+        QVERIFY2(told_.endsWith("\nb\nc\nr\nsms.old.mdb\n"), told_);
+        QCOMPARE(run(u"ln -s FILE DIR/l; smsdb upgrade DIR/l && smsdb check FILE"_s), 1);
+        QVERIFY(told_.contains("from version 1 to ") && !told_.contains("defined otherwise"));
+        QCOMPARE(run(upgrade + u" && smsdb export-customers FILE-before-step-2 DIR/d"_s), 0);
+        QVERIFY2(told_.contains("nothing to upgrade\nsmsdb: ") && told_.contains("older"), told_);
     }
 
     void leaves_nothing_half_made() { // while nobody reads what it tells
