@@ -6,9 +6,15 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using kind = column_kind;
+
+constexpr table_column required(QStringView name, column_kind holds) {
+    return {name, holds, {}, {}, {}, true};
+}
 
 constexpr auto smsmodels = std::to_array<table_column>({
     {u"mid", kind::key},
@@ -42,9 +48,9 @@ constexpr auto sendsms = std::to_array<table_column>({
     {u"mobile"},
     {u"sms"},
     {u"cid", kind::number, u"customer", u"cid", u"cid = 0"},
-    {u"sendisok", kind::flag},
-    {u"smsfrom", kind::flag},
-    {u"imsend", kind::flag},
+    required(u"sendisok", kind::flag),
+    required(u"smsfrom", kind::flag),
+    required(u"imsend", kind::flag),
     {u"rtime", kind::moment},
     {u"stime", kind::moment},
 });
@@ -53,14 +59,14 @@ constexpr auto recvedsms = std::to_array<table_column>({
     {u"mobile"},
     {u"sms"},
     {u"rtime", kind::moment},
-    {u"readed", kind::mark},
+    required(u"readed", kind::mark),
 });
 constexpr auto gsendsms = std::to_array<table_column>({
     {u"gsid", kind::key},
     {u"cid", kind::number, u"cusclass", u"ccid", u"cid = 0 OR isall <> 0"},
     {u"sms"},
-    {u"imsend", kind::flag},
-    {u"isall", kind::flag},
+    required(u"imsend", kind::flag),
+    required(u"isall", kind::flag),
     {u"stime", kind::moment},
     {u"rtime", kind::moment},
 });
@@ -128,21 +134,21 @@ constexpr auto viewitems = std::to_array<table_column>({
 });
 
 constexpr auto tables = std::to_array<table_description>({
-    {u"smsmodels", smsmodels},
-    {u"cusclass", cusclass},
-    {u"customer", customer},
-    {u"parameters", parameters},
-    {u"cgroup", cgroup, true},
-    {u"sendsms", sendsms},
-    {u"recvedsms", recvedsms},
-    {u"gsendsms", gsendsms},
-    {u"users", users},
-    {u"Functions", functions, false, true},
-    {u"rights", rights, true},
-    {u"operatelog", operatelog, false, true},
-    {u"CONSTS", consts, false, true},
-    {u"viewdef", viewdef, false, true},
-    {u"viewitems", viewitems, false, true},
+    {.name = u"smsmodels", .columns = smsmodels},
+    {.name = u"cusclass", .columns = cusclass},
+    {.name = u"customer", .columns = customer},
+    {.name = u"parameters", .columns = parameters},
+    {.name = u"cgroup", .columns = cgroup, .is_relation = true, .closes_up = true},
+    {.name = u"sendsms", .columns = sendsms, .closes_up = true},
+    {.name = u"recvedsms", .columns = recvedsms, .closes_up = true},
+    {.name = u"gsendsms", .columns = gsendsms, .closes_up = true},
+    {.name = u"users", .columns = users},
+    {.name = u"Functions", .columns = functions, .is_programs_own = true},
+    {.name = u"rights", .columns = rights, .is_relation = true, .closes_up = true},
+    {.name = u"operatelog", .columns = operatelog, .is_programs_own = true, .closes_up = true},
+    {.name = u"CONSTS", .columns = consts, .is_programs_own = true},
+    {.name = u"viewdef", .columns = viewdef, .is_programs_own = true},
+    {.name = u"viewitems", .columns = viewitems, .is_programs_own = true},
 });
 
 } // namespace
@@ -164,4 +170,24 @@ const table_description* find_table(QStringView name) {
             return table.name.compare(name, Qt::CaseInsensitive) == 0;
         });
     return found == tables.end() ? nullptr : &*found;
+}
+
+QString reference::dangles() const {
+    return u"(%1) IS NOT TRUE AND NOT EXISTS (SELECT 1 FROM %2 WHERE %2.%3 = %4.%5)"_s.arg(
+        column.none_where.isEmpty() ? u"FALSE" : column.none_where, column.target,
+        column.target_key, table.name, column.name);
+}
+
+QList<reference> all_references() {
+    QList<reference> all;
+    for (const table_description& table : tables) {
+        for (const table_column& column : table.columns) {
+            if (const table_description* target = find_table(column.target)) {
+                const dangling otherwise =
+                    table.is_relation ? dangling::leftover : dangling::history;
+                all.append({table, column, target->is_programs_own ? dangling::fault : otherwise});
+            }
+        }
+    }
+    return all;
 }

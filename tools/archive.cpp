@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "data/tables.h"
 #include "platform/conversion.h"
 #include "platform/csv.h"
 #include "platform/data_error.h"
@@ -43,20 +44,19 @@ before it, and before one that begins with an apostrophe too.
 Exit status: 0 done, or nothing to do; 2 not done, and the messages are in FILE.
 )";
 
-/// One of the two kinds of message. `query` gives key, whether the message is done with (-1), the
-/// time that decides, and then the fields of a line of the archive.
+/// One of the two kinds of message. `query` gives the key, whether the message is done with (-1),
+/// the time that decides, and then the fields of a line of the archive.
 struct message_table {
     QString name;
-    QString key;
     QString kind;
     QString query;
 };
 
 QList<message_table> message_tables() {
     return {
-        {u"sendsms"_s, u"smsid"_s, u"sent"_s,
+        {u"sendsms"_s, u"sent"_s,
          u"SELECT smsid, sendisok, stime, '发送', smsid, cid, cname, mobile, sms, stime, rtime, '', iif(imsend, '立即', '定时'), iif(smsfrom, '群发', '单发'), '' FROM vwsendsms ORDER BY smsid"_s},
-        {u"recvedsms"_s, u"smsrid"_s, u"received"_s,
+        {u"recvedsms"_s, u"received"_s,
          u"SELECT smsrid, -1, rtime, '接收', smsrid, cid, cname, mobile, sms, '', '', rtime, '', '', iif(readed, '√', '') FROM vwrecvedsms ORDER BY smsrid"_s},
     };
 }
@@ -102,10 +102,11 @@ QByteArray archive_of(const QList<selection>& selections) {
     return content;
 }
 
-/// Takes out the rows of these keys.
+/// Takes out the rows of these numbers.
 void take_out(physical_database& database, const message_table& table, const QStringList& going) {
-    for (const QString& key : going) {
-        database.execute(u"DELETE FROM %1 WHERE %2 = %3"_s.arg(table.name, table.key, key));
+    const QStringView key = find_table(table.name)->key();
+    for (const QString& number : going) {
+        database.execute(u"DELETE FROM %1 WHERE %2 = %3"_s.arg(table.name, key, number));
     }
 }
 

@@ -3,28 +3,28 @@
 
 #include "tools/closing_up.h"
 
+#include "data/tables.h"
 #include "platform/data_error.h"
 #include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
 
-#include <array>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct numbered_table {
-    QStringView name;
-    QStringView key;
-};
-
-constexpr auto tables = std::to_array<numbered_table>({{u"sendsms", u"smsid"},
-                                                       {u"recvedsms", u"smsrid"},
-                                                       {u"gsendsms", u"gsid"},
-                                                       {u"cgroup", u"gid"},
-                                                       {u"rights", u"rid"},
-                                                       {u"operatelog", u"opid"}});
+/// Numbers the rows of the table from 1 in their order; returns the next number.
+qint64 close_up_table(physical_database& database, const table_description& table) {
+    // Below every key first, so that no new key meets an old one.
+    database.execute(
+        u"UPDATE %1 SET %2 = closed.number - 1000000000000 FROM (SELECT %2 AS old, row_number() OVER (ORDER BY %2) AS number FROM %1) AS closed WHERE %2 = closed.old"_s
+            .arg(table.name, table.key()));
+    database.execute(u"UPDATE %1 SET %2 = %2 + 1000000000000"_s.arg(table.name, table.key()));
+    database.execute(
+        u"UPDATE sqlite_sequence SET seq = (SELECT count(*) FROM %1) WHERE name = '%1'"_s.arg(
+            table.name));
+    return database.number(u"SELECT count(*) + 1 FROM %1"_s.arg(table.name));
+}
 
 } // namespace
 
@@ -45,17 +45,10 @@ transaction closing_up::keep_to_oneself(physical_database& database, const QStri
 
 QStringList closing_up::close_up(physical_database& database) {
     QStringList next;
-    for (const auto& [name, key] : tables) {
-        // Below every key first, so that no new key meets an old one.
-        database.execute(
-            u"UPDATE %1 SET %2 = closed.number - 1000000000000 FROM (SELECT %2 AS old, row_number() OVER (ORDER BY %2) AS number FROM %1) AS closed WHERE %2 = closed.old"_s
-                .arg(name, key));
-        database.execute(u"UPDATE %1 SET %2 = %2 + 1000000000000"_s.arg(name, key));
-        database.execute(
-            u"UPDATE sqlite_sequence SET seq = (SELECT count(*) FROM %1) WHERE name = '%1'"_s.arg(
-                name));
-        next.append(
-            u"%1 %2"_s.arg(name).arg(database.number(u"SELECT count(*) + 1 FROM %1"_s.arg(name))));
+    for (const table_description& table : all_tables()) {
+        if (table.closes_up) {
+            next.append(u"%1 %2"_s.arg(table.name).arg(close_up_table(database, table)));
+        }
     }
     return next;
 }

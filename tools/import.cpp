@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "data/schema.h"
+#include "data/tables.h"
 #include "platform/data_error.h"
 #include "platform/database/transaction.h"
 #include "tools/command.h"
@@ -16,7 +17,6 @@
 #include <QCommandLineParser>
 #include <QMap>
 
-#include <algorithm>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -81,28 +81,20 @@ private:
     std::optional<table_filler> filler_; ///< none for an unknown table
 };
 
-QStringList tables_of(physical_database& database) {
-    return database.column(
-        u"SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%' ORDER BY rowid"_s);
-}
-
 void importer::begin_table(const old_records::record& table) {
     table_ = table.table;
     unknown_rows_ = 0;
-    const QStringList ours = tables_of(database_);
-    const auto known = std::find_if(ours.cbegin(), ours.cend(), [&table](const QString& name) {
-        return name.compare(table.table, Qt::CaseInsensitive) == 0;
-    });
-    if (known == ours.cend()) {
+    const table_description* known = find_table(table.table);
+    if (known == nullptr) {
         return;
     }
-    table_ = *known;
+    table_ = known->name.toString();
     if (counts_.contains(table_)) {
         throw failure(u"the old database is damaged: it has two tables %1"_s.arg(table_));
     }
     counts_.insert(table_, {});
     const QString target = old_views::hold(table_) ? old_views::waiting_place(table_) : table_;
-    filler_.emplace(database_, lost_, table_, target, table.columns);
+    filler_.emplace(database_, lost_, *known, target, table.columns);
 }
 
 void importer::take_row(const QJsonArray& row) {
@@ -128,14 +120,12 @@ void importer::finish_table() {
     }
 }
 
-/// A table that a user or the old program filled is not missed in silence; what the program came
-/// with is that of a fresh database.
+/// A table that an office filled is not missed in silence; what the program fills itself is that of
+/// a fresh database.
 void importer::report_missing() {
-    static const QStringList delivered{u"operatelog"_s, u"CONSTS"_s, u"Functions"_s, u"viewdef"_s,
-                                       u"viewitems"_s};
-    for (const QString& table : tables_of(database_)) {
-        if (!delivered.contains(table) && !counts_.contains(table)) {
-            lost_.add(u"table %1"_s.arg(table), u"the old database has none"_s);
+    for (const table_description& table : all_tables()) {
+        if (!table.is_programs_own && !counts_.contains(table.name.toString())) {
+            lost_.add(u"table %1"_s.arg(table.name), u"the old database has none"_s);
         }
     }
 }
@@ -163,7 +153,8 @@ void importer::run(old_records& records) {
 QString importer::report() const {
     const QString line = u"%1%2%3\n"_s;
     QString text = line.arg(u"table"_s, -12).arg(u"read"_s, 8).arg(u"written"_s, 10);
-    for (const QString& table : tables_of(database_)) {
+    for (const table_description& description : all_tables()) {
+        const QString table = description.name.toString();
         const counts counted = counts_.value(table);
         const bool is_fresh = counted.read == 0;
         const qint64 written =

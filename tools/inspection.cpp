@@ -4,10 +4,10 @@
 #include "tools/inspection.h"
 
 #include "data/schema.h"
+#include "data/tables.h"
 #include "platform/data_error.h"
 #include "platform/database/transaction.h"
 #include "tools/console.h"
-#include "tools/references.h"
 #include "tools/row_faults.h"
 #include "tools/schema_differences.h"
 #include "tools/stored_numbers.h"
@@ -39,8 +39,8 @@ private:
     }
 
     void look_at_schema();
-    void look_at_key(const QString& table, const QString& key);
-    void look_at_numbers(const QString& table);
+    void look_at_key(QStringView table, QStringView key);
+    void look_at_numbers(const table_description& table);
     void look_at_reference(const reference& checked);
     void look_at_telephone_numbers(const number_column& column);
     void look_at_operators();
@@ -91,14 +91,15 @@ void inspector::look_at_schema() {
     complete_ = differences.is_complete;
 }
 
-void inspector::look_at_key(const QString& table, const QString& key) {
+void inspector::look_at_key(QStringView table, QStringView key) {
     const QStringList row =
         database_
             .texts(
                 u"SELECT count(*), max(ifnull(max(%2), 0), ifnull((SELECT max(seq) FROM sqlite_sequence WHERE name = '%1' COLLATE NOCASE), 0)) FROM %1"_s
                     .arg(table, key))
             .first();
-    const numbering counted{table, key, row.at(0).toLongLong(), row.at(1).toLongLong()};
+    const numbering counted{table.toString(), key.toString(), row.at(0).toLongLong(),
+                            row.at(1).toLongLong()};
     found_.numberings.append(counted);
     if (counted.highest * 100 >= last_number * nearly_full) {
         report(u"%1.%2: number %3 of %4 has been given out"_s.arg(table, key)
@@ -107,23 +108,25 @@ void inspector::look_at_key(const QString& table, const QString& key) {
     }
 }
 
-void inspector::look_at_numbers(const QString& table) {
-    const QStringList columns = fresh_->column(
-        u"SELECT name FROM pragma_table_info('%1') WHERE type = 'INTEGER'"_s.arg(table));
-    for (const QString& column : columns) {
-        report_rows(
-            u"%1.%2 holds no 16-bit number"_s.arg(table, column), table,
-            u"%1 IS NOT NULL AND (typeof(%1) <> 'integer' OR %1 NOT BETWEEN -32768 AND 32767)"_s
-                .arg(column));
+void inspector::look_at_numbers(const table_description& table) {
+    for (const table_column& column : table.columns) {
+        if (column.is_number()) {
+            report_rows(
+                u"%1.%2 holds no 16-bit number"_s.arg(table.name, column.name), table.name,
+                u"%1 IS NOT NULL AND (typeof(%1) <> 'integer' OR %1 NOT BETWEEN -32768 AND 32767)"_s
+                    .arg(column.name));
+        }
     }
 }
 
 void inspector::look_at_reference(const reference& checked) {
-    const bool is_fault = checked.dangling == reference::Dangling::fault;
-    const bool is_leftover = checked.dangling == reference::Dangling::leftover;
-    report_rows(u"%1.%2 points nowhere (%3%4)"_s.arg(checked.table, checked.column, checked.target,
+    const bool is_fault = checked.meaning == dangling::fault;
+    const bool is_leftover = checked.meaning == dangling::leftover;
+    const QStringView table = checked.table.name;
+    report_rows(u"%1.%2 points nowhere (%3%4)"_s.arg(table, checked.column.name,
+                                                     checked.column.target,
                                                      is_leftover ? u"; see smsdb tidy"_s : u""_s),
-                checked.table, dangles(checked), is_fault ? found_.findings : found_.notes);
+                table, checked.dangles(), is_fault ? found_.findings : found_.notes);
 }
 
 void inspector::look_at_telephone_numbers(const number_column& column) {
@@ -171,18 +174,18 @@ inspection inspector::inspect() {
         report(u"damaged: %1"_s.arg(fault));
     }
     attempt([&] { look_at_schema(); });
-    const QList<QStringList> keys = fresh_->texts(
-        u"SELECT m.name, p.name FROM sqlite_master m, pragma_table_info(m.name) p WHERE m.type = 'table' AND p.pk = 1"_s);
-    for (const QStringList& key : keys) {
-        attempt([&] { look_at_key(key.at(0), key.at(1)); });
+    for (const table_description& table : all_tables()) {
+        if (!table.key().isEmpty()) {
+            attempt([&] { look_at_key(table.name, table.key()); });
+        }
     }
     if (found_.numberings.isEmpty() && sound_) {
         throw DataError(DataError::Kind::not_a_database, u"it holds no table of this system"_s);
     }
-    for (const QString& table : fresh_->table_names()) {
+    for (const table_description& table : all_tables()) {
         attempt([&] { look_at_numbers(table); });
     }
-    for (const reference& checked : references()) {
+    for (const reference& checked : all_references()) {
         attempt([&] { look_at_reference(checked); });
     }
     for (const row_fault& fault : row_faults()) {

@@ -72,23 +72,6 @@ carried carry_text(const QJsonValue& value) {
 
 } // namespace
 
-content content_of(const QString& column, const QString& type) {
-    static const QStringList flags{u"sendisok"_s, u"smsfrom"_s,  u"imsend"_s, u"isall"_s,
-                                   u"readonly"_s, u"isTwoS"_s,   u"CanSet"_s, u"ColMerge"_s,
-                                   u"Visible"_s,  u"CanFilter"_s};
-    static const QStringList moments{u"rtime"_s, u"stime"_s, u"optime"_s};
-    if (column == u"readed") {
-        return content::mark;
-    }
-    if (flags.contains(column, Qt::CaseInsensitive)) {
-        return content::flag;
-    }
-    if (moments.contains(column)) {
-        return content::moment;
-    }
-    return type == u"INTEGER" ? content::number : content::text;
-}
-
 QString text_of(const QJsonValue& value) {
     if (value.isBool()) {
         return value.toBool() ? u"-1"_s : u"0"_s;
@@ -96,26 +79,28 @@ QString text_of(const QJsonValue& value) {
     return value.isDouble() ? QString::number(value.toDouble(), 'g', 15) : value.toString();
 }
 
-carried carry(const QJsonValue& value, content wanted) {
+carried carry(const QJsonValue& value, column_kind wanted) {
     if (value.isNull()) {
         return {};
     }
-    const bool takes_numbers = wanted != content::moment && wanted != content::text;
     if (value.isObject()) {
-        return {takes_numbers ? QVariant(0) : QVariant(),
-                wanted == content::text ? u"is damaged there, an older copy may still have it"_s
-                                        : u"cannot be read"_s};
+        const bool takes_texts = wanted == column_kind::text || wanted == column_kind::moment;
+        return {takes_texts ? QVariant() : QVariant(0),
+                wanted == column_kind::text ? u"is damaged there, an older copy may still have it"_s
+                                            : u"cannot be read"_s};
     }
     switch (wanted) {
-    case content::number:
+    case column_kind::key:
+    case column_kind::number:
         return carry_number(value);
-    case content::flag:
+    case column_kind::flag:
         return carry_truth(value, -1);
-    case content::mark:
+    case column_kind::mark:
         return carry_truth(value, 1);
-    case content::moment:
+    case column_kind::moment:
         return carry_moment(value);
-    default:
-        return carry_text(value);
+    case column_kind::text:
+        break;
     }
+    return carry_text(value);
 }

@@ -3,21 +3,11 @@
 
 #pragma once
 
+#include "data/tables.h"
+
 #include <QJsonValue>
 #include <QString>
 #include <QVariant>
-
-/// What a column of the schema takes.
-enum class content {
-    number, ///< 16 bits
-    flag,   ///< -1 and 0
-    mark,   ///< 1 and 0
-    moment, ///< "yyyy/mm/dd hh:mm:ss"
-    text,
-};
-
-/// What the column of that name and declared type takes.
-[[nodiscard]] content content_of(const QString& column, const QString& type);
 
 /// An old value as the schema holds it.
 struct carried {
@@ -30,4 +20,4 @@ struct carried {
 
 /// Null stays Null; what cannot be carried becomes 0, or Null where the column takes a moment or a
 /// text. An empty object stands for a value that could not be read.
-[[nodiscard]] carried carry(const QJsonValue& value, content wanted);
+[[nodiscard]] carried carry(const QJsonValue& value, column_kind wanted);

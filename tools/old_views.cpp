@@ -3,6 +3,7 @@
 
 #include "tools/old_views.h"
 
+#include "data/tables.h"
 #include "platform/database/transaction.h"
 #include "tools/console.h"
 #include "tools/losses.h"
@@ -16,6 +17,16 @@ namespace {
 const QStringList& tables() {
     static const QStringList both{u"viewdef"_s, u"viewitems"_s};
     return both;
+}
+
+QString columns_but_the_key(const table_description& table) {
+    QStringList names;
+    for (const table_column& column : table.columns) {
+        if (column.kind != column_kind::key) {
+            names.append(column.name.toString());
+        }
+    }
+    return names.join(u", "_s);
 }
 
 } // namespace
@@ -52,9 +63,7 @@ void old_views::put_in_place(physical_database& database, losses& lost) {
              database.texts(u"SELECT number, view, reason FROM useless_%1"_s.arg(table))) {
             lost.add(table, u"%1 %2"_s.arg(shown(row.at(1)), row.at(2)), row.at(0).toLongLong());
         }
-        const QString columns =
-            database.column(u"SELECT name FROM pragma_table_info('%1') WHERE pk = 0"_s.arg(table))
-                .join(u", "_s);
+        const QString columns = columns_but_the_key(*find_table(table));
         database.execute(
             u"DELETE FROM %1 WHERE ViewNo IN (SELECT ViewNo FROM old_viewdef)"_s.arg(table));
         database.execute(

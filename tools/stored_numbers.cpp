@@ -10,11 +10,11 @@ using namespace Qt::StringLiterals;
 
 const QList<number_column>& number_columns() {
     static const QList<number_column> all{
-        {u"customer"_s, u"cid"_s,
+        {u"customer"_s,
          u"SELECT cid, mobile FROM customer WHERE trim(mobile) <> '' ORDER BY cid"_s},
-        {u"sendsms"_s, u"smsid"_s,
+        {u"sendsms"_s,
          u"SELECT smsid, mobile FROM sendsms WHERE sendisok = 0 AND trim(mobile) <> '' ORDER BY smsid"_s},
-        {u"recvedsms"_s, u"smsrid"_s,
+        {u"recvedsms"_s,
          u"SELECT smsrid, mobile FROM recvedsms WHERE trim(mobile) <> '' ORDER BY smsrid"_s},
     };
     return all;

@@ -18,7 +18,6 @@ struct stored_number {
 /// A column of telephone numbers, as far as anything depends on it still.
 struct number_column {
     QString table;
-    QString key;
     QString query; ///< gives key and number
 };
 

@@ -9,50 +9,45 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Tables whose rows mean nothing unless both numbers in them do.
-bool is_relation(const QString& table) {
-    return table == u"cgroup" || table == u"rights";
-}
-
 /// Tables whose rows the old system did not number.
-bool is_numbered_here(const QString& table) {
+bool is_numbered_here(QStringView table) {
     return table == u"rights" || table == u"CONSTS" || table.startsWith(u"view");
 }
 
 /// What stands where there must be a value. A message that may have been sent is never sent again.
-int fallback(const QString& column) {
+int fallback(QStringView column) {
     return column == u"sendisok" ? -1 : 0;
 }
 
 } // namespace
 
-table_filler::table_filler(physical_database& database, losses& lost, const QString& table,
-                           const QString& target, const QStringList& old_columns)
+table_filler::table_filler(physical_database& database, losses& lost,
+                           const table_description& table, const QString& target,
+                           const QStringList& old_columns)
     : lost_(lost), table_(table) {
     QSet<qsizetype> used;
     QStringList names;
-    for (const QStringList& row : database.texts(
-             u"SELECT name, type, pk, \"notnull\" FROM pragma_table_info('%1')"_s.arg(table))) {
-        column wanted{row.at(0), content_of(row.at(0), row.at(1)), row.at(2) != u"0",
-                      row.at(3) != u"0"};
+    for (const table_column& column : table.columns) {
+        const QString name = column.name.toString();
+        filled_column wanted{column};
         for (qsizetype i = 0; i < old_columns.size(); ++i) {
-            if (old_columns.at(i).compare(wanted.name, Qt::CaseInsensitive) == 0) {
+            if (old_columns.at(i).compare(name, Qt::CaseInsensitive) == 0) {
                 wanted.source = i;
             }
         }
         if (wanted.source >= 0) {
             used.insert(wanted.source);
-        } else if (wanted.is_key && is_numbered_here(table)) {
+        } else if (column.kind == column_kind::key && is_numbered_here(table.name)) {
             continue;
         } else {
-            lost_.add(u"column %1.%2"_s.arg(table, wanted.name), u"the old database has none"_s);
+            lost_.add(u"column %1.%2"_s.arg(table.name, name), u"the old database has none"_s);
         }
-        names.append(wanted.name);
+        names.append(name);
         columns_.append(wanted);
     }
     for (qsizetype i = 0; i < old_columns.size(); ++i) {
         if (!used.contains(i)) {
-            lost_.add(u"column %1.%2"_s.arg(table, old_columns.at(i)),
+            lost_.add(u"column %1.%2"_s.arg(table.name, old_columns.at(i)),
                       u"this system has no such column"_s);
         }
     }
@@ -63,14 +58,14 @@ table_filler::table_filler(physical_database& database, losses& lost, const QStr
     }
 }
 
-QJsonValue table_filler::old_value(const QJsonArray& row, const column& wanted) {
+QJsonValue table_filler::old_value(const QJsonArray& row, const filled_column& wanted) {
     return wanted.source < 0 ? QJsonValue() : row.at(wanted.source);
 }
 
 qint64 table_filler::number_of(const QJsonArray& row, const QList<carried>& values) const {
     for (qsizetype i = 0; i < columns_.size(); ++i) {
         const carried& key = values.at(i);
-        if (columns_.at(i).is_key && key.value.isValid()) {
+        if (columns_.at(i).ours.kind == column_kind::key && key.value.isValid()) {
             bool is_whole = true;
             const qint64 number =
                 key.fault.isEmpty() ? key.value.toLongLong()
@@ -84,8 +79,8 @@ qint64 table_filler::number_of(const QJsonArray& row, const QList<carried>& valu
 QString table_filler::objection(const QList<carried>& values, qint64 number) const {
     for (qsizetype i = 0; i < values.size(); ++i) {
         const carried& found = values.at(i);
-        if (!columns_.at(i).is_key) {
-            if (is_relation(table_) && !found.fault.isEmpty()) {
+        if (columns_.at(i).ours.kind != column_kind::key) {
+            if (table_.is_relation && !found.fault.isEmpty()) {
                 return found.fault;
             }
             continue;
@@ -101,21 +96,22 @@ QString table_filler::objection(const QList<carried>& values, qint64 number) con
             return u"its number is given twice"_s;
         }
     }
-    return table_ == u"parameters" && written_ > 0 ? u"only one row is ever used"_s : QString();
+    return table_.name == u"parameters" && written_ > 0 ? u"only one row is ever used"_s
+                                                        : QString();
 }
 
 /// The values as they go into the table; what is not carried is added to the losses.
 QVariantList table_filler::accounted(const QList<carried>& values, qint64 number) {
     QVariantList result;
     for (qsizetype i = 0; i < values.size(); ++i) {
-        const column& wanted = columns_.at(i);
+        const filled_column& wanted = columns_.at(i);
         const carried& found = values.at(i);
         if (!found.fault.isEmpty()) {
-            lost_.add(table_ + u'.' + wanted.name, found.fault, number);
+            lost_.add(u"%1.%2"_s.arg(table_.name, wanted.ours.name), found.fault, number);
         }
         const bool is_missing = !found.value.isValid() || !found.fault.isEmpty();
-        result.append(wanted.needs_value && is_missing ? QVariant(fallback(wanted.name))
-                                                       : found.value);
+        result.append(wanted.ours.needs_value && is_missing ? QVariant(fallback(wanted.ours.name))
+                                                            : found.value);
     }
     return result;
 }
@@ -126,13 +122,13 @@ void table_filler::take(const QJsonArray& row) {
         return; // every column has been reported
     }
     QList<carried> values;
-    for (const column& wanted : columns_) {
-        values.append(carry(old_value(row, wanted), wanted.takes));
+    for (const filled_column& wanted : columns_) {
+        values.append(carry(old_value(row, wanted), wanted.ours.kind));
     }
     const qint64 number = number_of(row, values);
     const QString reason = objection(values, number);
     if (!reason.isEmpty()) {
-        lost_.add(table_, reason, number);
+        lost_.add(table_.name.toString(), reason, number);
         return;
     }
     insertion_->run(accounted(values, number));

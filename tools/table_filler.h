@@ -17,8 +17,8 @@
 class table_filler {
 public:
     /// `old_columns` are matched by name without regard to case. The rows go into the table
-    /// `target`, which has the columns of `table`.
-    table_filler(physical_database& database, losses& lost, const QString& table,
+    /// `target`, which has the columns of `table`, one of all_tables().
+    table_filler(physical_database& database, losses& lost, const table_description& table,
                  const QString& target, const QStringList& old_columns);
 
     /// Puts a row in, or tells why not. Throws DataError.
@@ -28,16 +28,13 @@ public:
     [[nodiscard]] qint64 rows_written() const { return written_; }
 
 private:
-    struct column {
-        QString name;
-        content takes = content::text;
-        bool is_key = false;
-        bool needs_value = false;
+    struct filled_column {
+        table_column ours;
         qsizetype source = -1; ///< where it stands in an old row; negative for nowhere
     };
 
     /// Null where the old table has no such column.
-    [[nodiscard]] static QJsonValue old_value(const QJsonArray& row, const column& wanted);
+    [[nodiscard]] static QJsonValue old_value(const QJsonArray& row, const filled_column& wanted);
     /// Why the row cannot be carried; empty when it can.
     [[nodiscard]] QString objection(const QList<carried>& values, qint64 number) const;
     /// The number that a report names a row by: its key, however that is written, or how many have
@@ -46,8 +43,8 @@ private:
     [[nodiscard]] QVariantList accounted(const QList<carried>& values, qint64 number);
 
     losses& lost_;
-    QString table_;
-    QList<column> columns_;
+    const table_description& table_;
+    QList<filled_column> columns_;
     std::optional<bound_statement> insertion_;
     QSet<qint64> numbers_;
     qint64 read_ = 0;

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "data/tables.h"
 #include "platform/database/bound_statement.h"
 #include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/office_database.h"
-#include "tools/references.h"
 #include "tools/stored_numbers.h"
 
 #include <QCommandLineParser>
@@ -34,18 +34,19 @@ Exit status: 0 done, or nothing to do; 2 nothing done.
 /// Takes out what nothing shows any more; returns what that was, a line each.
 QString remove_leftovers(physical_database& database) {
     QString told;
-    for (const reference& checked : references()) {
-        if (checked.dangling != reference::Dangling::leftover) {
+    for (const reference& checked : all_references()) {
+        if (checked.meaning != dangling::leftover) {
             continue;
         }
-        const QString condition = dangles(checked);
+        const QStringView table = checked.table.name;
+        const QString condition = checked.dangles();
         for (const QStringList& row : database.texts(
                  u"SELECT rowid, ifnull(%1, 'Null') FROM %2 WHERE %3 ORDER BY rowid"_s.arg(
-                     checked.column, checked.table, condition))) {
-            told += u"%1 %2: taken out: there is no %3 %4\n"_s.arg(checked.table, row.at(0),
-                                                                   checked.target, row.at(1));
+                     checked.column.name, table, condition))) {
+            told += u"%1 %2: taken out: there is no %3 %4\n"_s.arg(
+                table, row.at(0), checked.column.target, row.at(1));
         }
-        database.execute(u"DELETE FROM %1 WHERE %2"_s.arg(checked.table, condition));
+        database.execute(u"DELETE FROM %1 WHERE %2"_s.arg(table, condition));
     }
     return told;
 }
@@ -54,8 +55,8 @@ QString remove_leftovers(physical_database& database) {
 QString mend_numbers(physical_database& database) {
     QString told;
     for (const number_column& column : number_columns()) {
-        bound_statement change(
-            database, u"UPDATE %1 SET mobile = ? WHERE %2 = ?"_s.arg(column.table, column.key));
+        bound_statement change(database, u"UPDATE %1 SET mobile = ? WHERE %2 = ?"_s.arg(
+                                             column.table, find_table(column.table)->key()));
         for (const stored_number& number : untidy_numbers(database, column)) {
             const QString where = u"%1 %2: "_s.arg(column.table).arg(number.row);
             if (number.dialled.isEmpty()) {

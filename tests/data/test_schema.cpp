@@ -81,16 +81,15 @@ private slots:
         QStringList described;
         for (const table_description& table : all_tables()) {
             for (const table_column& column : table.columns) {
-                const bool is_text =
-                    column.kind == column_kind::text || column.kind == column_kind::moment;
-                described.append(
-                    u"%1.%2|%3|%4"_s.arg(table.name, column.name, is_text ? u"TEXT" : u"INTEGER",
-                                         column.kind == column_kind::key ? u"1" : u"0"));
+                described.append(u"%1.%2|%3|%4|%5"_s.arg(
+                    table.name, column.name, column.is_number() ? u"INTEGER" : u"TEXT",
+                    column.kind == column_kind::key ? u"1" : u"0",
+                    column.needs_value ? u"1" : u"0"));
             }
         }
         const auto database = open_database(path_);
         QStringList stored = database->column(
-            u"select m.name || '.' || c.name || '|' || c.type || '|' || c.pk from sqlite_master m, pragma_table_info(m.name) c where m.type='table' and m.name not like 'sqlite%' "_s);
+            u"select m.name || '.' || c.name || '|' || c.type || '|' || c.pk || '|' || c.\"notnull\" from sqlite_master m, pragma_table_info(m.name) c where m.type='table' and m.name not like 'sqlite%' "_s);
         described.sort();
         stored.sort();
         QCOMPARE(described, stored);

@@ -125,27 +125,27 @@ private slots:
 
     void converts_data() {
         qputenv("TZ", "Asia/Shanghai"); // where no clock showed 2:30 on 4 May 1986
-        QTest::addColumn<content>("wanted");
+        QTest::addColumn<column_kind>("wanted");
         QTest::addColumn<QJsonValue>("old");
         QTest::addColumn<QVariant>("value");
-        const auto row = [](content wanted, const QJsonValue& old, const QVariant& value) {
+        const auto row = [](column_kind wanted, const QJsonValue& old, const QVariant& value) {
             QTest::addRow("%s", qPrintable(old.toVariant().toString())) << wanted << old << value;
         };
-        row(content::moment, u"2009年3月5日 下午3:04:05"_s, u"2009/03/05 15:04:05"_s);
-        row(content::moment, u"2009-3-5 12:30 AM"_s, u"2009/03/05 00:30:00"_s);
-        row(content::moment, u"２００９.3.5 12:30 pm"_s, u"2009/03/05 12:30:00"_s);
-        row(content::moment, u"1986/5/4 上午 2:30"_s, u"1986/05/04 02:30:00"_s);
-        row(content::moment, u"5/3/2009"_s, {});
-        row(content::number, u" 12 "_s, 12);
-        row(content::number, 1.5, {});
-        row(content::flag, u"否"_s, 0);
-        row(content::text, true, u"-1"_s);
-        row(content::text, 13900000001.0, u"13900000001"_s);
-        row(content::text, u"a\0b"_s, {});
+        row(column_kind::moment, u"2009年3月5日 下午3:04:05"_s, u"2009/03/05 15:04:05"_s);
+        row(column_kind::moment, u"2009-3-5 12:30 AM"_s, u"2009/03/05 00:30:00"_s);
+        row(column_kind::moment, u"２００９.3.5 12:30 pm"_s, u"2009/03/05 12:30:00"_s);
+        row(column_kind::moment, u"1986/5/4 上午 2:30"_s, u"1986/05/04 02:30:00"_s);
+        row(column_kind::moment, u"5/3/2009"_s, {});
+        row(column_kind::number, u" 12 "_s, 12);
+        row(column_kind::number, 1.5, {});
+        row(column_kind::flag, u"否"_s, 0);
+        row(column_kind::text, true, u"-1"_s);
+        row(column_kind::text, 13900000001.0, u"13900000001"_s);
+        row(column_kind::text, u"a\0b"_s, {});
     }
 
     void converts() {
-        QFETCH(content, wanted);
+        QFETCH(column_kind, wanted);
         QFETCH(QJsonValue, old);
         const auto [value, fault] = carry(old, wanted);
         QTEST(fault.isEmpty() ? value : QVariant(), "value"); // none where something is lost
@@ -155,7 +155,8 @@ private slots:
         const auto database = open_database({}, physical_database::open_mode::memory);
         database->execute_script("create table smsmodels (mid integer primary key, text)");
         losses lost;
-        table_filler filler(*database, lost, u"smsmodels"_s, u"smsmodels"_s, {u"mid"_s, u"text"_s});
+        table_filler filler(*database, lost, *find_table(u"smsmodels"), u"smsmodels"_s,
+                            {u"mid"_s, u"text"_s});
         for (const QJsonValue& key :
              {QJsonValue(u"5"_s), QJsonValue(5), QJsonValue(u"70000"_s), QJsonValue(u"x"_s)}) {
             filler.take({key, u"a"_s});
