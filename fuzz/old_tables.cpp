@@ -3,7 +3,7 @@
 
 #include "fuzz/target.h"
 #include "tools/command.h"
-#include "tools/jet_table.h"
+#include "tools/old_format/jet_catalogue.h"
 
 #include <QFile>
 #include <QJsonObject>
@@ -36,9 +36,9 @@ void check_value(const QJsonValue& value) {
 }
 
 void read_all(const QString& path) {
-    jet_file file(path, u"GBK"_s);
-    for (const jet_file::table& which : file.tables()) {
-        jet_table table(file, which);
+    old_format::jet_file file(path, u"GBK"_s);
+    for (const old_format::table_place& which : old_format::tables_of(file)) {
+        old_format::jet_table table(file, which);
         const qsizetype columns = table.columns().size();
         table.for_each_row([columns](const QJsonArray& row) {
             expect(row.size() == columns, "a row has a value for each column");

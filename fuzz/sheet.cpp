@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/sheet.h"
+#include "tools/sheets/sheet.h"
 #include "data/dialled_number.h"
 #include "fuzz/target.h"
 #include "platform/csv.h"
 #include "tools/command.h"
-#include "tools/customer_sheet.h"
+#include "tools/sheets/customer_sheet.h"
 
 using namespace Qt::StringLiterals;
 

@@ -45,7 +45,3 @@ struct command {
 [[nodiscard]] command archive_command();
 [[nodiscard]] command renumber_command();
 [[nodiscard]] command grant_command();
-[[nodiscard]] command import_customers_command();
-[[nodiscard]] command export_customers_command();
-[[nodiscard]] command import_command();
-[[nodiscard]] command read_old_command();

@@ -8,6 +8,8 @@
 #include "platform/terminal_application.h"
 #include "tools/command.h"
 #include "tools/console.h"
+#include "tools/old_format/commands.h"
+#include "tools/sheets/commands.h"
 #include "tools/texts.h"
 
 #include <QCommandLineParser>
@@ -32,8 +34,8 @@ const auto& commands() {
                                 grant_command(),
                                 import_customers_command(),
                                 export_customers_command(),
-                                import_command(),
-                                read_old_command()};
+                                old_format::import_command(),
+                                old_format::read_old_command()};
     return all;
 }
 

@@ -3,8 +3,8 @@
 
 #include "platform/database/connection_pool.h"
 #include "tests/tools/smsdb_shell.h"
-#include "tools/old_values.h"
-#include "tools/table_filler.h"
+#include "tools/old_format/table_filler.h"
+#include "tools/old_format/values.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -147,16 +147,16 @@ private slots:
     void converts() {
         QFETCH(column_kind, wanted);
         QFETCH(QJsonValue, old);
-        const auto [value, fault] = carry(old, wanted);
+        const auto [value, fault] = old_format::carry(old, wanted);
         QTEST(fault.isEmpty() ? value : QVariant(), "value"); // none where something is lost
     }
 
     void takes_a_key_as_it_is_written() {
         const auto database = open_database({}, physical_database::open_mode::memory);
         database->execute_script("create table smsmodels (mid integer primary key, text)");
-        losses lost;
-        table_filler filler(*database, lost, *find_table(u"smsmodels"), u"smsmodels"_s,
-                            {u"mid"_s, u"text"_s});
+        old_format::losses lost;
+        old_format::table_filler filler(*database, lost, *find_table(u"smsmodels"), u"smsmodels"_s,
+                                        {u"mid"_s, u"text"_s});
         for (const QJsonValue& key :
              {QJsonValue(u"5"_s), QJsonValue(5), QJsonValue(u"70000"_s), QJsonValue(u"x"_s)}) {
             filler.take({key, u"a"_s});

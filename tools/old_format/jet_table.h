@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "tools/jet_file.h"
+#include "tools/old_format/jet_file.h"
 
 #include <QJsonArray>
 #include <QSet>
@@ -13,18 +13,25 @@
 #include <span>
 #include <vector>
 
+namespace old_format {
+
+/// Where a table of a Jet file is found.
+struct table_place {
+    QString name;
+    quint32 page = 0; ///< where its definition stands
+};
+
 /// One table of a Jet file: its columns, and its rows as they stand.
 class jet_table {
 public:
-    /// Reads the definition. Throws failure when it is damaged.
-    jet_table(jet_file& file, const jet_file::table& which);
+    /// Reads the definition. Throws damaged.
+    jet_table(jet_file& file, const table_place& which);
 
     [[nodiscard]] QStringList columns() const;
 
     /// Every row once: Null, truth values, numbers and texts, one a column; a moment is a text
     /// "yyyy/mm/dd", the time of day behind it unless that is midnight; what cannot be read is an
-    /// empty object. Throws failure when rows are damaged or there are not as many as there should
-    /// be.
+    /// empty object. Throws damaged, also when there are not as many rows as there should be.
     void for_each_row(const std::function<void(const QJsonArray&)>& take);
 
 private:
@@ -55,3 +62,5 @@ private:
     std::unique_ptr<MdbTableDef, deleter> table_;
     int columns_ever_ = 0; ///< how many columns have had a number, deleted ones too
 };
+
+} // namespace old_format

@@ -9,6 +9,8 @@
 #include <QString>
 #include <QVariant>
 
+namespace old_format {
+
 /// An old value as the schema holds it.
 struct carried {
     QVariant value;
@@ -21,3 +23,5 @@ struct carried {
 /// Null stays Null; what cannot be carried becomes 0, or Null where the column takes a moment or a
 /// text. An empty object stands for a value that could not be read.
 [[nodiscard]] carried carry(const QJsonValue& value, column_kind wanted);
+
+} // namespace old_format

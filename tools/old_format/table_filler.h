@@ -4,14 +4,16 @@
 #pragma once
 
 #include "platform/database/bound_statement.h"
-#include "tools/losses.h"
-#include "tools/old_values.h"
+#include "tools/old_format/losses.h"
+#include "tools/old_format/values.h"
 
 #include <QJsonArray>
 #include <QSet>
 #include <QStringList>
 
 #include <optional>
+
+namespace old_format {
 
 /// A table of a fresh database as the rows of the old one's take the place of its own.
 class table_filler {
@@ -50,3 +52,5 @@ private:
     qint64 read_ = 0;
     qint64 written_ = 0;
 };
+
+} // namespace old_format

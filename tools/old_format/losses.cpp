@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/losses.h"
+#include "tools/old_format/losses.h"
 
 #include "tools/console.h"
 
@@ -10,6 +10,8 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+namespace old_format {
 
 namespace {
 
@@ -49,3 +51,5 @@ QString losses::lines() const {
     }
     return text;
 }
+
+} // namespace old_format

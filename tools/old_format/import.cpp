@@ -1,18 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "tools/old_format/commands.h"
+
 #include "data/schema.h"
 #include "data/tables.h"
 #include "platform/data_error.h"
 #include "platform/database/transaction.h"
-#include "tools/command.h"
 #include "tools/console.h"
 #include "tools/inspection.h"
-#include "tools/losses.h"
 #include "tools/new_file.h"
-#include "tools/old_records.h"
-#include "tools/old_views.h"
-#include "tools/table_filler.h"
+#include "tools/old_format/list_definitions.h"
+#include "tools/old_format/losses.h"
+#include "tools/old_format/records.h"
+#include "tools/old_format/table_filler.h"
 
 #include <QCommandLineParser>
 #include <QMap>
@@ -20,6 +21,8 @@
 #include <optional>
 
 using namespace Qt::StringLiterals;
+
+namespace old_format {
 
 namespace {
 
@@ -58,7 +61,7 @@ class importer {
 public:
     explicit importer(physical_database& database) : database_(database) {}
 
-    void run(old_records& records);
+    void run(records& old);
     [[nodiscard]] const losses& lost() const { return lost_; }
     [[nodiscard]] QString report() const;
 
@@ -68,7 +71,7 @@ private:
         qint64 written = 0;
     };
 
-    void begin_table(const old_records::record& table);
+    void begin_table(const records::record& table);
     void take_row(const QJsonArray& row);
     void finish_table();
     void report_missing();
@@ -81,7 +84,7 @@ private:
     std::optional<table_filler> filler_; ///< none for an unknown table
 };
 
-void importer::begin_table(const old_records::record& table) {
+void importer::begin_table(const records::record& table) {
     table_ = table.table;
     unknown_rows_ = 0;
     const table_description* known = find_table(table.table);
@@ -93,7 +96,8 @@ void importer::begin_table(const old_records::record& table) {
         throw failure(u"the old database is damaged: it has two tables %1"_s.arg(table_));
     }
     counts_.insert(table_, {});
-    const QString target = old_views::hold(table_) ? old_views::waiting_place(table_) : table_;
+    const QString target =
+        list_definitions::hold(table_) ? list_definitions::waiting_place(table_) : table_;
     filler_.emplace(database_, lost_, *known, target, table.columns);
 }
 
@@ -102,7 +106,7 @@ void importer::take_row(const QJsonArray& row) {
         ++unknown_rows_;
         return;
     }
-    if (filler_->rows_read() == 0 && !old_views::hold(table_)) {
+    if (filler_->rows_read() == 0 && !list_definitions::hold(table_)) {
         // Those of the fresh office, and their numbering with them.
         database_.execute(u"DELETE FROM "_s + table_);
         database_.execute(u"DELETE FROM sqlite_sequence WHERE name = '%1'"_s.arg(table_));
@@ -130,23 +134,23 @@ void importer::report_missing() {
     }
 }
 
-void importer::run(old_records& records) {
+void importer::run(records& old) {
     transaction all(database_);
-    old_views::make_waiting_places(database_);
+    list_definitions::make_waiting_places(database_);
     for (;;) {
-        const old_records::record found = records.next();
-        if (found.kind == old_records::record::Kind::row) {
+        const records::record found = old.next();
+        if (found.kind == records::record::Kind::row) {
             take_row(found.values);
             continue;
         }
         finish_table();
-        if (found.kind == old_records::record::Kind::end) {
+        if (found.kind == records::record::Kind::end) {
             break;
         }
         begin_table(found);
     }
     report_missing();
-    old_views::put_in_place(database_, lost_);
+    list_definitions::put_in_place(database_, lost_);
     all.commit();
 }
 
@@ -157,8 +161,9 @@ QString importer::report() const {
         const QString table = description.name.toString();
         const counts counted = counts_.value(table);
         const bool is_fresh = counted.read == 0;
-        const qint64 written =
-            old_views::hold(table) ? old_views::carried_rows(database_, table) : counted.written;
+        const qint64 written = list_definitions::hold(table)
+                                   ? list_definitions::carried_rows(database_, table)
+                                   : counted.written;
         text += line.arg(table, -12)
                     .arg(counts_.contains(table) ? QString::number(counted.read) : u"none"_s, 8)
                     .arg(is_fresh ? u"fresh"_s : QString::number(written), 10);
@@ -185,9 +190,9 @@ int run(const QCommandLineParser& arguments) {
     try {
         make_database(made.path());
         const auto database = open_database(made.path());
-        old_records records(old, charset);
+        records source(old, charset);
         importer importing(*database);
-        importing.run(records);
+        importing.run(source);
         const inspection found = inspect(*database);
         report = importing.report() + lines(found);
         is_whole = importing.lost().isEmpty() && found.findings.isEmpty();
@@ -210,3 +215,5 @@ command import_command() {
             {QCommandLineOption(u"charset"_s, {}, u"name"_s, u"GBK"_s)},
             run};
 }
+
+} // namespace old_format

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/table_filler.h"
+#include "tools/old_format/table_filler.h"
 
 #include "tools/inspection.h"
 
 using namespace Qt::StringLiterals;
+
+namespace old_format {
 
 namespace {
 
@@ -135,3 +137,5 @@ void table_filler::take(const QJsonArray& row) {
     numbers_.insert(number);
     ++written_;
 }
+
+} // namespace old_format

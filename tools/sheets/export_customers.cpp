@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "tools/sheets/commands.h"
+
 #include "platform/csv.h"
-#include "tools/command.h"
 #include "tools/console.h"
-#include "tools/customer_sheet.h"
 #include "tools/new_file.h"
 #include "tools/office_database.h"
+#include "tools/sheets/customer_sheet.h"
 
 #include <QCommandLineParser>
 

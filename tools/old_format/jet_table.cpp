@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/jet_table.h"
-
-#include "tools/command.h"
+#include "tools/old_format/jet_table.h"
 
 #include <QDateTime>
 #include <QJsonObject>
@@ -16,6 +14,8 @@
 #include <vector>
 
 using namespace Qt::StringLiterals;
+
+namespace old_format {
 
 namespace {
 
@@ -77,7 +77,7 @@ private:
 
 } // namespace
 
-jet_table::jet_table(jet_file& file, const jet_file::table& which)
+jet_table::jet_table(jet_file& file, const table_place& which)
     : file_(file), entry_(std::make_unique<MdbCatalogEntry>()) {
     entry_->mdb = file.handle();
     entry_->object_type = MDB_TABLE;
@@ -128,7 +128,7 @@ bool jet_table::columns_are_sound() {
 }
 
 void jet_table::refuse(const QString& what) const {
-    throw failure(u"is damaged: table %1: %2"_s.arg(
+    throw damaged(u"table %1: %2"_s.arg(
         QString::fromUtf8(static_cast<const char*>(entry_->object_name)), what));
 }
 
@@ -289,3 +289,5 @@ QJsonValue jet_table::value(const MdbColumn& column, const MdbField& field) {
         return unreadable();
     }
 }
+
+} // namespace old_format

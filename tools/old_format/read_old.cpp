@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "tools/old_format/commands.h"
+
 #include "platform/process_limits.h"
-#include "tools/command.h"
-#include "tools/jet_table.h"
+#include "tools/old_format/jet_catalogue.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -13,13 +14,15 @@
 
 using namespace Qt::StringLiterals;
 
+namespace old_format {
+
 namespace {
 
 constexpr QStringView help = uR"(Usage: smsdb read-old OLD.mdb --charset NAME
 
 What smsdb import runs to read the old file, so that a damaged one ends this process and no other.
 Writes a line of JSON a record: ["table", its name, its columns …], ["row", its values …], and at the
-end ["end"] or ["failed", the reason].
+end ["end"], or ["damaged", how] or ["failed", the reason].
 )";
 
 void write(const QJsonArray& record) {
@@ -38,7 +41,7 @@ int run(const QCommandLineParser& arguments) {
                        static_cast<int>(5 + QFileInfo(path).size() / bytes_a_second));
     try {
         jet_file file(path, arguments.value(u"charset"_s));
-        for (const jet_file::table& which : file.tables()) {
+        for (const table_place& which : tables_of(file)) {
             jet_table table(file, which);
             QJsonArray head = QJsonArray::fromStringList(table.columns());
             head.prepend(which.name);
@@ -50,6 +53,9 @@ int run(const QCommandLineParser& arguments) {
             });
         }
         write({u"end"_s});
+    } catch (const damaged& how) {
+        write({u"damaged"_s, QString::fromUtf8(how.what())});
+        return exit_status::unusable;
     } catch (const failure& reason) {
         write({u"failed"_s, QString::fromUtf8(reason.what())});
         return exit_status::unusable;
@@ -62,3 +68,5 @@ int run(const QCommandLineParser& arguments) {
 command read_old_command() {
     return {u"read-old"_s, {}, help, 1, {QCommandLineOption(u"charset"_s, {}, u"name"_s)}, run};
 }
+
+} // namespace old_format

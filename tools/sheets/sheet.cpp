@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/sheet.h"
+#include "tools/sheets/sheet.h"
 
 #include "tools/command.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/old_values.h"
+#include "tools/old_format/values.h"
 
 #include "data/fmtdatetime.h"
 #include "platform/conversion.h"
@@ -12,6 +12,8 @@
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
+
+namespace old_format {
 
 namespace {
 
@@ -104,3 +106,5 @@ carried carry(const QJsonValue& value, column_kind wanted) {
     }
     return carry_text(value);
 }
+
+} // namespace old_format

@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "tools/command.h"
+
 #include <QByteArrayView>
-#include <QList>
 #include <QString>
 #include <QStringDecoder>
 
@@ -16,6 +17,14 @@
 //
 #include <mdbtools.h>
 
+namespace old_format {
+
+/// A file is damaged; the reason tells how.
+class damaged : public failure {
+public:
+    using failure::failure;
+};
+
 /// A database file in the Jet 3 or Jet 4 format, open for reading. The library underneath trusts
 /// what stands in the file: a damaged one may crash it or keep it busy for ever, so it belongs into
 /// a process of its own.
@@ -24,16 +33,9 @@ public:
     /// The part of a row's entry in its page that tells where it stands; above it are its flags.
     static constexpr int offset_mask = 0x1fff;
 
-    struct table {
-        QString name;
-        quint32 page = 0; ///< where its definition stands
-    };
-
-    /// `charset` is what the texts of a Jet 3 file are written in. Throws failure.
+    /// `charset` is what the texts of a Jet 3 file are written in. Throws damaged, or failure when
+    /// it is no such file.
     jet_file(const QString& path, const QString& charset);
-
-    /// The tables that hold data, in no useful order. Throws failure.
-    [[nodiscard]] QList<table> tables();
 
     /// A text as the file holds it; nothing when it is cut. Characters that cannot be read become
     /// U+FFFD.
@@ -54,3 +56,5 @@ private:
     std::unique_ptr<MdbHandle, closer> handle_;
     QStringDecoder decoder_;
 };
+
+} // namespace old_format

@@ -1,16 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/old_views.h"
+#include "tools/old_format/list_definitions.h"
 
 #include "data/tables.h"
 #include "platform/database/transaction.h"
 #include "tools/console.h"
-#include "tools/losses.h"
+#include "tools/old_format/losses.h"
 
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
+
+namespace old_format {
 
 namespace {
 
@@ -31,21 +33,21 @@ QString columns_but_the_key(const table_description& table) {
 
 } // namespace
 
-bool old_views::hold(const QString& table) {
+bool list_definitions::hold(const QString& table) {
     return tables().contains(table);
 }
 
-QString old_views::waiting_place(const QString& table) {
+QString list_definitions::waiting_place(const QString& table) {
     return u"temp.old_"_s + table;
 }
 
-void old_views::make_waiting_places(physical_database& database) {
+void list_definitions::make_waiting_places(physical_database& database) {
     for (const QString& table : tables()) {
         database.execute(u"CREATE TEMP TABLE old_%1 AS SELECT * FROM %1 WHERE 0"_s.arg(table));
     }
 }
 
-void old_views::put_in_place(physical_database& database, losses& lost) {
+void list_definitions::put_in_place(physical_database& database, losses& lost) {
     database.execute(
         u"CREATE TEMP TABLE useless_viewitems AS SELECT rowid AS number, ViewNo AS view, 'shows passwords, which no list does' AS reason FROM old_viewitems WHERE trim(keyword) = 'password' COLLATE NOCASE"_s);
     database.execute(
@@ -71,6 +73,8 @@ void old_views::put_in_place(physical_database& database, losses& lost) {
     }
 }
 
-qint64 old_views::carried_rows(physical_database& database, const QString& table) {
+qint64 list_definitions::carried_rows(physical_database& database, const QString& table) {
     return database.number(u"SELECT count(*) FROM old_%1"_s.arg(table));
 }
+
+} // namespace old_format

@@ -9,6 +9,8 @@
 
 #include <utility>
 
+namespace old_format {
+
 /// What an import could not carry over, rows that share a reason together.
 class losses {
 public:
@@ -24,3 +26,5 @@ public:
 private:
     QMap<std::pair<QString, QString>, QList<qint64>> rows_;
 };
+
+} // namespace old_format

@@ -1,15 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
+#include "tools/sheets/commands.h"
+
 #include "data/dialled_number.h"
 #include "platform/data_error.h"
 #include "platform/database/bound_statement.h"
 #include "platform/database/transaction.h"
-#include "tools/command.h"
 #include "tools/console.h"
-#include "tools/customer_sheet.h"
 #include "tools/inspection.h"
 #include "tools/office_database.h"
+#include "tools/sheets/customer_sheet.h"
 
 #include <QCommandLineParser>
 #include <QFile>

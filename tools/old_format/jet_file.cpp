@@ -1,10 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/jet_file.h"
-
-#include "tools/command.h"
-#include "tools/jet_table.h"
+#include "tools/old_format/jet_file.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -12,10 +9,11 @@
 
 using namespace Qt::StringLiterals;
 
+namespace old_format {
+
 namespace {
 
 constexpr qsizetype longest_text = 0x1000000;
-constexpr quint32 catalogue_page = 2;
 
 template <class number>
 number little_endian(QByteArrayView bytes, qsizetype at) {
@@ -41,7 +39,7 @@ void check_header(const QString& path) {
         throw failure(u"is no database of the old format"_s);
     }
     if (file.size() % (header.at(20) == 0 ? 2048 : 4096) != 0) {
-        throw failure(u"is damaged: its end is missing"_s);
+        throw damaged(u"its end is missing"_s);
     }
 }
 
@@ -72,32 +70,8 @@ jet_file::jet_file(const QString& path, const QString& charset)
     qputenv("MDB_JET3_CHARSET", charset.toLatin1()); // for the names of columns
     handle_.reset(mdb_open(QFile::encodeName(path).constData(), MDB_NOFLAGS));
     if (handle_ == nullptr) {
-        throw failure(u"is damaged: its head cannot be read"_s);
+        throw damaged(u"its head cannot be read"_s);
     }
-}
-
-QList<jet_file::table> jet_file::tables() {
-    QList<table> found;
-    // The library's own way through the catalogue can go round for ever in a damaged one.
-    jet_table catalogue(*this, {u"MSysObjects"_s, catalogue_page});
-    const QStringList columns = catalogue.columns();
-    const qsizetype id = columns.indexOf(u"Id"_s);
-    const qsizetype name = columns.indexOf(u"Name"_s);
-    const qsizetype type = columns.indexOf(u"Type"_s);
-    const qsizetype flags = columns.indexOf(u"Flags"_s);
-    if (id < 0 || name < 0 || type < 0 || flags < 0) {
-        throw failure(u"is damaged: it does not tell what tables it holds"_s);
-    }
-    catalogue.for_each_row([&](const QJsonArray& row) {
-        MdbCatalogEntry entry{};
-        entry.object_type = row.at(type).toInt(-1) & 0x7f;
-        entry.flags = row.at(flags).toInt();
-        if (mdb_is_user_table(&entry) != 0) {
-            const auto page = static_cast<quint32>(row.at(id).toInt()) & 0xffffff;
-            found.append({row.at(name).toString(), page});
-        }
-    });
-    return found;
 }
 
 std::optional<QString> jet_file::text(QByteArrayView stored) {
@@ -168,3 +142,5 @@ std::optional<QString> jet_file::long_text(QByteArrayView field) {
     }
     return stored.size() == length ? text(stored) : std::nullopt;
 }
+
+} // namespace old_format

@@ -9,9 +9,11 @@
 #include <QString>
 #include <QStringList>
 
+namespace old_format {
+
 /// What an old database holds, record by record. It is read by a process of its own, which a
 /// damaged file may crash or keep busy; nothing that comes from there is taken on trust.
-class old_records {
+class records {
 public:
     struct record {
         enum class Kind { table, row, end };
@@ -21,9 +23,9 @@ public:
         QJsonArray values;   ///< of the row, one a column: Null, truth value, number, text, or {}
     };
 
-    old_records(const QString& path, const QString& charset);
-    ~old_records();
-    Q_DISABLE_COPY_MOVE(old_records)
+    records(const QString& path, const QString& charset);
+    ~records();
+    Q_DISABLE_COPY_MOVE(records)
 
     /// The next record: a table, then its rows, then the next table; at last `end`. Throws failure
     /// when the file cannot be used.
@@ -31,7 +33,7 @@ public:
 
 private:
     [[nodiscard]] QJsonArray next_line();
-    [[noreturn]] void refuse(const QString& reason) const;
+    [[noreturn]] void refuse_damaged(const QString& how) const;
 
     QString path_;
     qint64 allowance_; ///< how many bytes may still come
@@ -40,3 +42,5 @@ private:
     qsizetype taken_ = 0; ///< how much of it has been used
     QProcess reader_;
 };
+
+} // namespace old_format

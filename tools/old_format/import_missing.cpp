@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/command.h"
+#include "tools/old_format/commands.h"
 
 #include <QCommandLineParser>
 
 using namespace Qt::StringLiterals;
+
+namespace old_format {
 
 namespace {
 
@@ -33,3 +35,5 @@ command import_command() {
 command read_old_command() {
     return {u"read-old"_s, {}, help, 1, {}, run};
 }
+
+} // namespace old_format

@@ -6,11 +6,14 @@
 #include <QString>
 
 class physical_database;
+
+namespace old_format {
 class losses;
+}
 
 /// The definitions of lists that an old database holds. They wait in tables of their own until it
 /// is known which can be used.
-namespace old_views {
+namespace old_format::list_definitions {
 
 /// Whether the rows of a table are such definitions.
 [[nodiscard]] bool hold(const QString& table);
@@ -29,4 +32,4 @@ void put_in_place(physical_database& database, losses& lost);
 /// After put_in_place: how many rows of `table` come from the old database.
 [[nodiscard]] qint64 carried_rows(physical_database& database, const QString& table);
 
-} // namespace old_views
+} // namespace old_format::list_definitions

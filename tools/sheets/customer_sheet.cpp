@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/customer_sheet.h"
+#include "tools/sheets/customer_sheet.h"
 
 #include "data/dialled_number.h"
 #include "tools/command.h"
 #include "tools/console.h"
-#include "tools/sheet.h"
+#include "tools/sheets/sheet.h"
 
 #include <QHash>
 #include <QRegularExpression>

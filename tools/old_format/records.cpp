@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "tools/old_records.h"
+#include "tools/old_format/records.h"
 
 #include "tools/command.h"
 #include "tools/console.h"
@@ -16,6 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace old_format {
+
 namespace {
 
 constexpr qint64 longest_line = 0x4000000;
@@ -28,7 +30,7 @@ bool is_value(const QJsonValue& value) {
 
 } // namespace
 
-old_records::old_records(const QString& path, const QString& charset)
+records::records(const QString& path, const QString& charset)
     : path_(path), allowance_(longest_line + growth * QFileInfo(path).size()) {
     reader_.setStandardInputFile(QProcess::nullDevice());
     reader_.setStandardErrorFile(QProcess::nullDevice());
@@ -37,28 +39,26 @@ old_records::old_records(const QString& path, const QString& charset)
                   QIODevice::ReadOnly);
 }
 
-old_records::~old_records() {
+records::~records() {
     reader_.kill();
     reader_.waitForFinished();
 }
 
-void old_records::refuse(const QString& reason) const {
-    const bool is_damaged = reason.startsWith(u"is damaged");
-    throw failure(
-        u"%1: %2%3"_s.arg(path_, reason, is_damaged ? u" (see smsdb import --help)"_s : QString()));
+void records::refuse_damaged(const QString& how) const {
+    throw failure(u"%1: is damaged: %2 (see smsdb import --help)"_s.arg(path_, how));
 }
 
-QJsonArray old_records::next_line() {
+QJsonArray records::next_line() {
     // All that is there is taken at once; a line is a small part of it, or in the making.
     qsizetype end = pending_.indexOf('\n', taken_);
     while (end < 0) {
         const qsizetype seen = pending_.size() - taken_;
         pending_.remove(0, std::exchange(taken_, 0));
         if (seen >= longest_line) {
-            refuse(u"is damaged: reading it gives no sense"_s);
+            refuse_damaged(u"reading it gives no sense"_s);
         }
         if (reader_.bytesAvailable() == 0 && !reader_.waitForReadyRead(-1)) {
-            refuse(u"is damaged: reading it came to no good end"_s);
+            refuse_damaged(u"reading it came to no good end"_s);
         }
         pending_ += reader_.readAll();
         end = pending_.indexOf('\n', seen);
@@ -69,12 +69,12 @@ QJsonArray old_records::next_line() {
     QJsonArray fields =
         QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size())).array();
     if (fields.isEmpty() || allowance_ < 0) {
-        refuse(u"is damaged: reading it gives no sense"_s);
+        refuse_damaged(u"reading it gives no sense"_s);
     }
     return fields;
 }
 
-old_records::record old_records::next() {
+records::record records::next() {
     QJsonArray fields = next_line();
     const QString kind = fields.takeAt(0).toString();
     const bool are_texts = std::all_of(fields.cbegin(), fields.cend(),
@@ -82,8 +82,11 @@ old_records::record old_records::next() {
     if (kind == u"end" && fields.isEmpty()) {
         return {};
     }
+    if (kind == u"damaged" && fields.size() == 1 && are_texts) {
+        refuse_damaged(harmless(fields.first().toString()));
+    }
     if (kind == u"failed" && fields.size() == 1 && are_texts) {
-        refuse(harmless(fields.first().toString()));
+        throw failure(u"%1: %2"_s.arg(path_, harmless(fields.first().toString())));
     }
     if (kind == u"table" && !fields.isEmpty() && are_texts) {
         current_ = {record::Kind::table, fields.takeAt(0).toString(), {}, {}};
@@ -94,9 +97,11 @@ old_records::record old_records::next() {
     }
     if (kind != u"row" || fields.size() != current_.columns.size() || fields.isEmpty() ||
         !std::all_of(fields.cbegin(), fields.cend(), is_value)) {
-        refuse(u"is damaged: reading it gives no sense"_s);
+        refuse_damaged(u"reading it gives no sense"_s);
     }
     current_.kind = record::Kind::row;
     current_.values = fields;
     return current_;
 }
+
+} // namespace old_format
