@@ -23,7 +23,7 @@ set(screens platform/widgets listview directory messaging operators app)
 set(system_headers "(sys|arpa|net|netinet)/|(csignal|dirent|dlfcn|fcntl|poll|pthread|signal|spawn|termios|unistd|windows)[.h>]")
 
 # What may stand in some folders alone: a name, the pattern of a line, the folders or files.
-set(rules widgets boxes engine system statements)
+set(rules widgets boxes engine system statements messages)
 set(widgets_pattern "^#include <QtWidgets/|^#include <Q(Widget|Dialog|Application|MainWindow|MessageBox)>")
 set(widgets_in ${screens})
 set(boxes_pattern "QMessageBox")
@@ -34,6 +34,12 @@ set(system_pattern "^#include <(${system_headers})")
 set(system_in platform platform/database gateway)
 set(statements_pattern "[\"]([Ss][Ee][Ll][Ee][Cc][Tt].* [Ff][Rr][Oo][Mm]|[Ii][Nn][Ss][Ee][Rr][Tt] [Ii][Nn][Tt][Oo]|[Uu][Pp][Dd][Aa][Tt][Ee] .* [Ss][Ee][Tt]|[Dd][Ee][Ll][Ee][Tt][Ee] +[Ff][Rr][Oo][Mm]) ")
 set(statements_in data platform/database gateway tools tools/sheets tools/old_format)
+
+# What smsdb says is in the user's language: two words in a row, or a word that is handed to what says it.
+set(words "[a-z][a-z]+ [a-z][a-z]+")
+set(saying "failure|damaged|print|complain|conclude|remark|report|refuse_*[a-z]*|put_down_*[a-z]*|add|append")
+set(messages_pattern "u\"[^\"]*${words}|(${saying})\\(u\"[^\"]*[a-z][a-z]+")
+set(messages_in ${app_may} platform gateway)
 
 set(faults "")
 file(GLOB_RECURSE files RELATIVE ${ROOT} ${ROOT}/*/*.h ${ROOT}/*/*.cpp)

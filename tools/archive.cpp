@@ -11,6 +11,7 @@
 #include "tools/console.h"
 #include "tools/new_file.h"
 #include "tools/office_database.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -19,7 +20,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb archive FILE --before DATE [--to ARCHIVE.csv]
+QString help() {
+    return texts::tr(R"(Usage: smsdb archive FILE --before DATE [--to ARCHIVE.csv]
 
 Moves old messages from the database FILE to a new file for a spreadsheet: messages sent whose send
 time, and messages received whose receipt time, lies before DATE. Messages that wait to be sent stay
@@ -42,7 +44,8 @@ ARCHIVE.csv is UTF-8 with a byte order mark, readable by its owner alone. A text
 before it, and before one that begins with an apostrophe too.
 
 Exit status: 0 done, or nothing to do; 2 not done, and the messages are in FILE.
-)";
+)");
+}
 
 /// One of the two kinds of message. `query` gives the key, whether the message is done with (-1),
 /// the time that decides, and then the fields of a line of the archive.
@@ -54,9 +57,9 @@ struct message_table {
 
 QList<message_table> message_tables() {
     return {
-        {u"sendsms"_s, u"sent"_s,
+        {u"sendsms"_s, texts::tr("sent"),
          u"SELECT smsid, sendisok, stime, '发送', smsid, cid, cname, mobile, sms, stime, rtime, '', iif(imsend, '立即', '定时'), iif(smsfrom, '群发', '单发'), '' FROM vwsendsms ORDER BY smsid"_s},
-        {u"recvedsms"_s, u"received"_s,
+        {u"recvedsms"_s, texts::tr("received"),
          u"SELECT smsrid, -1, rtime, '接收', smsrid, cid, cname, mobile, sms, '', '', rtime, '', '', iif(readed, '√', '') FROM vwrecvedsms ORDER BY smsrid"_s},
     };
 }
@@ -118,8 +121,9 @@ QDate read_date(const QString& text) {
         }
     }
     throw failure(
-        u"--before %1: expected a date, YYYY-MM-DD or YYYY/MM/DD (see smsdb archive --help)"_s.arg(
-            text));
+        texts::tr(
+            "--before %1: expected a date, YYYY-MM-DD or YYYY/MM/DD (see smsdb archive --help)")
+            .arg(text));
 }
 
 /// What is done with the messages; with nothing, where no archive is made.
@@ -130,13 +134,14 @@ QString report(const QList<message_table>& tables, const QList<selection>& selec
         const message_table& table = tables.at(i);
         const selection& selected = selections.at(i);
         if (!archive.isEmpty()) {
-            told += u"moved %1 %2 message(s) to %3\n"_s.arg(QString::number(selected.going.size()),
-                                                            table.kind, archive);
+            told += texts::tr("moved %1 %2 message(s) to %3\n")
+                        .arg(QString::number(selected.going.size()), table.kind, archive);
         }
         if (!selected.unreadable.isEmpty()) {
-            told += u"kept %1 %2 message(s) whose time cannot be read, number(s) %3\n"_s.arg(
-                QString::number(selected.unreadable.size()), table.kind,
-                some_of(archive.isEmpty() ? selected.unreadable : selected.unreadable_closed));
+            told += texts::tr("kept %1 %2 message(s) whose time cannot be read, number(s) %3\n")
+                        .arg(QString::number(selected.unreadable.size()), table.kind,
+                             some_of(archive.isEmpty() ? selected.unreadable
+                                                       : selected.unreadable_closed));
         }
     }
     return told;
@@ -144,7 +149,7 @@ QString report(const QList<message_table>& tables, const QList<selection>& selec
 
 QString required(const QCommandLineParser& arguments, const QString& option) {
     if (arguments.value(option).isEmpty()) {
-        throw failure(u"--%1 names nothing (see smsdb archive --help)"_s.arg(option));
+        throw failure(texts::tr("--%1 names nothing (see smsdb archive --help)").arg(option));
     }
     return arguments.value(option);
 }
@@ -159,14 +164,15 @@ void move_out(physical_database& database, transaction& moving, const QString& f
     }
     const QString next = closing_up::close_up(database).join(u", "_s);
     database.write_ahead();
-    const QString told = report(tables, selections, place) + u"next numbers: %1\n"_s.arg(next);
+    const QString told =
+        report(tables, selections, place) + texts::tr("next numbers: %1\n").arg(next);
     conclude(told, [&] {
         archive.put_in_place();
         try {
             moving.commit();
         } catch (const DataError& error) {
-            throw failure(u"%1; its messages stay in it, though %2 is written"_s.arg(
-                describe(error, file), place));
+            throw failure(texts::tr("%1; its messages stay in it, though %2 is written")
+                              .arg(describe(error, file), place));
         }
     });
     closing_up::shrink(database);
@@ -188,7 +194,7 @@ int run(const QCommandLineParser& arguments) {
         going += selections.last().going.size();
     }
     if (going == 0) {
-        print(report(tables, selections, {}) + u"nothing to archive\n"_s);
+        print(report(tables, selections, {}) + texts::tr("nothing to archive\n"));
         return exit_status::clean;
     }
     move_out(*database, moving, file, place, tables, selections);
@@ -199,8 +205,8 @@ int run(const QCommandLineParser& arguments) {
 
 command archive_command() {
     return {u"archive"_s,
-            u"move old messages to a file for a spreadsheet"_s,
-            help,
+            texts::tr("move old messages to a file for a spreadsheet"),
+            help(),
             1,
             {QCommandLineOption(u"before"_s, {}, u"date"_s),
              QCommandLineOption(u"to"_s, {}, u"file"_s)},

@@ -5,6 +5,7 @@
 #include "tools/console.h"
 #include "tools/database_copy.h"
 #include "tools/new_file.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 
@@ -12,7 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb backup FILE TO
+QString help() {
+    return texts::tr(R"(Usage: smsdb backup FILE TO
 
 Copies the database FILE to TO, which must not exist, also while clients are working in it: TO holds what
 FILE held when the copying began. TO is one whole file, readable by its owner alone, which a client can
@@ -24,20 +26,22 @@ smsdb check). One of an older version is copied as it is.
 To go back to a backup use smsdb restore.
 
 Exit status: 0 copied; 2 not copied.
-)";
+)");
+}
 
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().at(0);
     const QString place = arguments.positionalArguments().at(1);
     new_file backup(place);
     copy_database(file, backup.path(), place);
-    conclude(u"copied %1 to %2\n"_s.arg(file, place), [&backup] { backup.put_in_place(); });
+    conclude(texts::tr("copied %1 to %2\n").arg(file, place), [&backup] { backup.put_in_place(); });
     return exit_status::clean;
 }
 
 } // namespace
 
 command backup_command() {
-    return {u"backup"_s, u"copy a database, also while clients are working in it"_s, help, 2, {},
-            run};
+    return {u"backup"_s, texts::tr("copy a database, also while clients are working in it"),
+            help(),      2,
+            {},          run};
 }

@@ -6,6 +6,7 @@
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/inspection.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 
@@ -13,7 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb check FILE
+QString help() {
+    return texts::tr(R"(Usage: smsdb check FILE
 
 Looks through the database FILE, also while clients are working in it, and changes nothing. Prints for
 every table how many rows it holds, the highest number given out so far and how much of the numbers
@@ -41,7 +43,8 @@ Findings:
 
 Exit status: 0 nothing found; 1 findings; 2 the file cannot be used (missing, no database of this
 system, the old format, locked).
-)";
+)");
+}
 
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().first();
@@ -49,20 +52,23 @@ int run(const QCommandLineParser& arguments) {
     inspection found = inspect(*database);
     if (const QString lease = exclusive_lease::unwritable_file(file); !lease.isEmpty()) {
         found.findings.append(
-            u"%1 cannot be written: a client that may not mend it sends nothing"_s.arg(lease));
+            texts::tr("%1 cannot be written: a client that may not mend it sends nothing")
+                .arg(lease));
     }
 
-    const QString line = u"%1%2%3%4\n"_s;
-    print(line.arg(u"table.key"_s, -20).arg(u"rows"_s, 8).arg(u"highest"_s, 10).arg(u"used"_s, 8));
+    const auto print_line = [](const QString& key, const QString& rows, const QString& highest,
+                               const QString& used) {
+        print(padded(key, -20) + padded(rows, 8) + padded(highest, 10) + padded(used, 8) + u'\n');
+    };
+    print_line(texts::tr("table.key"), texts::tr("rows"), texts::tr("highest"), texts::tr("used"));
     for (const numbering& counted : found.numberings) {
-        print(line.arg(counted.table + u'.' + counted.key, -20)
-                  .arg(counted.rows, 8)
-                  .arg(counted.highest, 10)
-                  .arg(u"%1 %"_s.arg(counted.highest * 100 / last_number), 8));
+        print_line(counted.table + u'.' + counted.key, QString::number(counted.rows),
+                   QString::number(counted.highest),
+                   u"%1 %"_s.arg(counted.highest * 100 / last_number));
     }
     print(u'\n' + lines(found));
     if (found.findings.isEmpty()) {
-        print(u"no findings\n"_s);
+        print(texts::tr("no findings\n"));
         return exit_status::clean;
     }
     return exit_status::findings;
@@ -71,5 +77,6 @@ int run(const QCommandLineParser& arguments) {
 } // namespace
 
 command check_command() {
-    return {u"check"_s, u"look for faults, and for numbers that run out"_s, help, 1, {}, run};
+    return {u"check"_s, texts::tr("look for faults, and for numbers that run out"), help(), 1, {},
+            run};
 }

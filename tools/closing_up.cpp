@@ -8,6 +8,7 @@
 #include "platform/database/transaction.h"
 #include "tools/command.h"
 #include "tools/console.h"
+#include "tools/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -37,7 +38,7 @@ transaction closing_up::keep_to_oneself(physical_database& database, const QStri
     } catch (const DataError& error) {
         if (error.kind() == DataError::Kind::locked) {
             throw failure(
-                u"%1: is open in a client or another program; close it first"_s.arg(file));
+                texts::tr("%1: is open in a client or another program; close it first").arg(file));
         }
         throw;
     }
@@ -58,6 +59,6 @@ void closing_up::shrink(physical_database& database) {
         database.execute(u"VACUUM"_s);
         database.rest();
     } catch (const DataError& error) {
-        complain(u"the file stays as large as it is: "_s + error.detail());
+        complain(texts::tr("the file stays as large as it is: %1").arg(error.detail()));
     }
 }

@@ -27,8 +27,8 @@ public:
 /// A command as the table in main holds it.
 struct command {
     QString name;
-    QString summary;  ///< its line in `smsdb --help`; none for what only this program itself runs
-    QStringView help; ///< the whole text of `smsdb NAME --help`
+    QString summary; ///< its line in `smsdb --help`; none for what only this program itself runs
+    QString help;    ///< the whole text of `smsdb NAME --help`
     qsizetype operands = 1; ///< how many; the first is a file
     QList<QCommandLineOption> options;
     /// Does the work and returns the exit status; throws failure, or DataError about the file that

@@ -6,6 +6,7 @@
 #include "platform/data_error.h"
 #include "platform/terminal.h"
 #include "tools/command.h"
+#include "tools/texts.h"
 
 #include <QStringDecoder>
 
@@ -20,7 +21,7 @@ void print(const QString& text) {
 
 void flush_output() {
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
-        throw failure(u"standard output cannot be written"_s);
+        throw failure(texts::tr("standard output cannot be written"));
     }
 }
 
@@ -30,7 +31,7 @@ void conclude(const QString& report, const std::function<void()>& commit) {
     try {
         commit();
     } catch (const std::exception&) {
-        complain(u"what is told above is not done:"_s);
+        complain(texts::tr("what is told above is not done:"));
         throw;
     }
 }
@@ -42,19 +43,21 @@ void complain(const QString& what) {
 QString describe(const DataError& error, const QString& file) {
     switch (error.kind()) {
     case DataError::Kind::missing_file:
-        return u"%1: there is no such file"_s.arg(file);
+        return texts::tr("%1: there is no such file").arg(file);
     case DataError::Kind::cannot_open:
-        return u"%1: cannot be opened: %2"_s.arg(file, error.detail());
+        return texts::tr("%1: cannot be opened: %2").arg(file, error.detail());
     case DataError::Kind::not_a_database:
-        return u"%1: is no database of this system or is damaged: %2"_s.arg(file, error.detail());
+        return texts::tr("%1: is no database of this system or is damaged: %2")
+            .arg(file, error.detail());
     case DataError::Kind::old_format:
-        return u"%1: is a database of the old format, which has to be imported first"_s.arg(file);
+        return texts::tr("%1: is a database of the old format, which has to be imported first")
+            .arg(file);
     case DataError::Kind::newer_version:
-        return u"%1: was made by a newer version of this system"_s.arg(file);
+        return texts::tr("%1: was made by a newer version of this system").arg(file);
     case DataError::Kind::locked:
-        return u"%1: is in use by another program"_s.arg(file);
+        return texts::tr("%1: is in use by another program").arg(file);
     case DataError::Kind::disk:
-        return u"%1: reading or writing failed: %2"_s.arg(file, error.detail());
+        return texts::tr("%1: reading or writing failed: %2").arg(file, error.detail());
     default:
         return u"%1: %2"_s.arg(file, error.detail());
     }
@@ -62,7 +65,7 @@ QString describe(const DataError& error, const QString& file) {
 
 void refuse_charset(const QString& charset) {
     if (!charset.isEmpty() && !QStringDecoder(charset.toLatin1().constData()).isValid()) {
-        throw failure(u"--charset %1: unknown"_s.arg(charset));
+        throw failure(texts::tr("--charset %1: unknown").arg(charset));
     }
 }
 
@@ -75,6 +78,14 @@ QString some_of(const QStringList& items) {
 QString shown(const QString& text) {
     constexpr qsizetype longest = 40;
     return u"\"%1\""_s.arg(harmless(text.size() > longest ? text.left(longest) + u'…' : text));
+}
+
+QString padded(const QString& text, int width) {
+    constexpr char16_t first_wide = 0x1100;
+    const auto wide = std::count_if(text.cbegin(), text.cend(),
+                                    [](QChar c) { return c.unicode() >= first_wide; });
+    const auto less = static_cast<int>(wide);
+    return u"%1"_s.arg(text, width < 0 ? qMin(width + less, 0) : qMax(width - less, 0));
 }
 
 QString harmless(QString text) {

@@ -37,5 +37,9 @@ void refuse_charset(const QString& charset);
 /// A text from a file as a report shows it: between quotes, a long one cut.
 [[nodiscard]] QString shown(const QString& text);
 
+/// The text with blanks before it, or behind it where the width is negative, until it takes that
+/// many places of a terminal, on which a Chinese letter takes two.
+[[nodiscard]] QString padded(const QString& text, int width);
+
 /// The text as one line, without characters that would steer a terminal.
 [[nodiscard]] QString harmless(QString text);

@@ -6,6 +6,7 @@
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/new_file.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 
@@ -13,14 +14,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb create FILE
+QString help() {
+    return texts::tr(R"(Usage: smsdb create FILE
 
 Makes the database of a fresh office, as the client does at its first start: the operator valdrine
 with an empty password and all rights, and a gateway at 127.0.0.1, port 9100.
 A file that exists is never touched.
 
 Exit status: 0 made; 2 not made.
-)";
+)");
+}
 
 int run(const QCommandLineParser& arguments) {
     const QString path = arguments.positionalArguments().first();
@@ -30,12 +33,12 @@ int run(const QCommandLineParser& arguments) {
     } catch (const DataError& error) {
         throw failure(describe(error, path));
     }
-    conclude(u"made %1\n"_s.arg(path), [&made] { made.put_in_place(); });
+    conclude(texts::tr("made %1\n").arg(path), [&made] { made.put_in_place(); });
     return exit_status::clean;
 }
 
 } // namespace
 
 command create_command() {
-    return {u"create"_s, u"make the database of a fresh office"_s, help, 1, {}, run};
+    return {u"create"_s, texts::tr("make the database of a fresh office"), help(), 1, {}, run};
 }

@@ -8,6 +8,7 @@
 #include "tools/console.h"
 #include "tools/inspection.h"
 #include "tools/office_database.h"
+#include "tools/texts.h"
 
 #include <QStringList>
 
@@ -31,7 +32,7 @@ void copy_database(const QString& file, const QString& path, const QString& plac
         const auto copy = open_database(path, physical_database::open_mode::read_only);
         const QStringList faults = integrity_faults(*copy);
         if (!faults.isEmpty()) {
-            throw failure(u"%1: is damaged: %2"_s.arg(file, faults.first()));
+            throw failure(texts::tr("%1: is damaged: %2").arg(file, faults.first()));
         }
         require_office(*copy, file, office_use::reading);
     } catch (const DataError& error) {

@@ -7,6 +7,7 @@
 #include "tools/console.h"
 #include "tools/inspection.h"
 #include "tools/office_database.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 
@@ -14,7 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb grant FILE OPERATOR
+QString help() {
+    return texts::tr(R"(Usage: smsdb grant FILE OPERATOR
 
 The way back in when nobody can manage the operators any more: gives the operator of that name in the
 database FILE both rights and an EMPTY PASSWORD, so that anybody can log in under that name until a password
@@ -22,13 +24,15 @@ is set. Makes the operator when there is none of that name; of several the one w
 taken. Whoever may write FILE may do this. Then log in as OPERATOR at once and set a password.
 
 Exit status: 0 granted; 2 not granted.
-)";
+)");
+}
 
 /// The number of the row that was just inserted. Throws failure when the screens cannot hold it.
 qint64 given_number(physical_database& database, const QString& table) {
     if (database.last_key() > last_number) {
-        throw failure(
-            u"the numbers of %1 run out: there are no more than %2"_s.arg(table).arg(last_number));
+        throw failure(texts::tr("the numbers of %1 run out: there are no more than %2")
+                          .arg(table)
+                          .arg(last_number));
     }
     return database.last_key();
 }
@@ -60,22 +64,24 @@ int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().at(0);
     const QString name = arguments.positionalArguments().at(1).trimmed();
     if (name.isEmpty() || name.contains(u'\'')) {
-        throw failure(u"%1: nobody can log in under this name"_s.arg(shown(name)));
+        throw failure(texts::tr("%1: nobody can log in under this name").arg(shown(name)));
     }
     const auto database = open_office(file, office_use::writing);
     transaction granting(*database);
     const qint64 userid = operator_named(*database, name);
     grant_everything(*database, userid);
     database->write_ahead();
-    conclude(
-        u"operator %1 (number %2) has both rights\nWARNING: THE PASSWORD IS EMPTY NOW. Anybody can log in as %1; do it at once and set a password.\n"_s
-            .arg(shown(name), QString::number(userid)),
-        [&granting] { granting.commit(); });
+    conclude(texts::tr("operator %1 (number %2) has both rights\nWARNING: THE PASSWORD IS EMPTY "
+                       "NOW. Anybody can log in as %1; do it at once and set a password.\n")
+                 .arg(shown(name), QString::number(userid)),
+             [&granting] { granting.commit(); });
     return exit_status::clean;
 }
 
 } // namespace
 
 command grant_command() {
-    return {u"grant"_s, u"give an operator all rights, when nobody has them"_s, help, 2, {}, run};
+    return {u"grant"_s, texts::tr("give an operator all rights, when nobody has them"),
+            help(),     2,
+            {},         run};
 }

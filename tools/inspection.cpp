@@ -11,6 +11,7 @@
 #include "tools/row_faults.h"
 #include "tools/schema_differences.h"
 #include "tools/stored_numbers.h"
+#include "tools/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -72,7 +73,8 @@ void inspector::attempt(const Step& step) {
 
 void put_down(const QString& what, const QStringList& rows, QStringList& among) {
     if (!rows.isEmpty()) {
-        among.append(u"%1 in %2 row(s): %3"_s.arg(what).arg(rows.size()).arg(some_of(rows)));
+        among.append(
+            texts::tr("%1 in %2 row(s): %3").arg(what).arg(rows.size()).arg(some_of(rows)));
     }
 }
 
@@ -102,7 +104,8 @@ void inspector::look_at_key(QStringView table, QStringView key) {
                             row.at(1).toLongLong()};
     found_.numberings.append(counted);
     if (counted.highest * 100 >= last_number * nearly_full) {
-        report(u"%1.%2: number %3 of %4 has been given out"_s.arg(table, key)
+        report(texts::tr("%1.%2: number %3 of %4 has been given out")
+                   .arg(table, key)
                    .arg(counted.highest)
                    .arg(last_number));
     }
@@ -112,7 +115,7 @@ void inspector::look_at_numbers(const table_description& table) {
     for (const table_column& column : table.columns) {
         if (column.is_number()) {
             report_rows(
-                u"%1.%2 holds no 16-bit number"_s.arg(table.name, column.name), table.name,
+                texts::tr("%1.%2 holds no 16-bit number").arg(table.name, column.name), table.name,
                 u"%1 IS NOT NULL AND (typeof(%1) <> 'integer' OR %1 NOT BETWEEN -32768 AND 32767)"_s
                     .arg(column.name));
         }
@@ -120,13 +123,13 @@ void inspector::look_at_numbers(const table_description& table) {
 }
 
 void inspector::look_at_reference(const reference& checked) {
-    const bool is_fault = checked.meaning == dangling::fault;
-    const bool is_leftover = checked.meaning == dangling::leftover;
+    const QString told = checked.meaning == dangling::leftover
+                             ? texts::tr("%1.%2 points nowhere (%3; see smsdb tidy)")
+                             : texts::tr("%1.%2 points nowhere (%3)");
     const QStringView table = checked.table.name;
-    report_rows(u"%1.%2 points nowhere (%3%4)"_s.arg(table, checked.column.name,
-                                                     checked.column.target,
-                                                     is_leftover ? u"; see smsdb tidy"_s : u""_s),
-                table, checked.dangles(), is_fault ? found_.findings : found_.notes);
+    report_rows(told.arg(table, checked.column.name, checked.column.target), table,
+                checked.dangles(),
+                checked.meaning == dangling::fault ? found_.findings : found_.notes);
 }
 
 void inspector::look_at_telephone_numbers(const number_column& column) {
@@ -135,9 +138,10 @@ void inspector::look_at_telephone_numbers(const number_column& column) {
     for (const stored_number& number : untidy_numbers(database_, column)) {
         (number.dialled.isEmpty() ? others : mendable).append(QString::number(number.row));
     }
-    put_down(u"%1.mobile is not as it is dialled (see smsdb tidy --numbers)"_s.arg(column.table),
-             mendable, found_.notes);
-    put_down(u"%1.mobile is no number that can be dialled"_s.arg(column.table), others,
+    put_down(
+        texts::tr("%1.mobile is not as it is dialled (see smsdb tidy --numbers)").arg(column.table),
+        mendable, found_.notes);
+    put_down(texts::tr("%1.mobile is no number that can be dialled").arg(column.table), others,
              found_.notes);
 }
 
@@ -145,16 +149,16 @@ void inspector::look_at_operators() {
     if (database_.number(
             u"SELECT count(*) FROM rights NATURAL JOIN users WHERE funid = 1 AND username IS NOT NULL AND password IS NOT NULL"_s) ==
         0) {
-        report(u"nobody can manage the operators (see smsdb grant)"_s);
+        report(texts::tr("nobody can manage the operators (see smsdb grant)"));
     }
 }
 
 void inspector::look_at_parameters() {
     const qint64 rows = database_.number(u"SELECT count(*) FROM parameters"_s);
     if (rows != 1) {
-        report(u"parameters: holds %1 rows where there must be one"_s.arg(rows));
+        report(texts::tr("parameters: holds %1 rows where there must be one").arg(rows));
     }
-    report_rows(u"parameters.port is empty"_s, u"parameters"_s, u"port IS NULL"_s);
+    report_rows(texts::tr("parameters.port is empty"), u"parameters"_s, u"port IS NULL"_s);
 }
 
 void inspector::look_at_view_definitions() {
@@ -162,7 +166,7 @@ void inspector::look_at_view_definitions() {
         for (const QString& table : {u"viewdef"_s, u"viewitems"_s}) {
             if (database_.number(
                     u"SELECT count(*) FROM %1 WHERE ViewNo = '%2'"_s.arg(table, view)) == 0) {
-                report(u"%1: the list %2 is not defined"_s.arg(table, view));
+                report(texts::tr("%1: the list %2 is not defined").arg(table, view));
             }
         }
     }
@@ -171,7 +175,7 @@ void inspector::look_at_view_definitions() {
 inspection inspector::inspect() {
     for (const QString& fault : integrity_faults(database_)) {
         sound_ = false;
-        report(u"damaged: %1"_s.arg(fault));
+        report(texts::tr("damaged: %1").arg(fault));
     }
     attempt([&] { look_at_schema(); });
     for (const table_description& table : all_tables()) {
@@ -180,7 +184,8 @@ inspection inspector::inspect() {
         }
     }
     if (found_.numberings.isEmpty() && sound_) {
-        throw DataError(DataError::Kind::not_a_database, u"it holds no table of this system"_s);
+        throw DataError(DataError::Kind::not_a_database,
+                        texts::tr("it holds no table of this system"));
     }
     for (const table_description& table : all_tables()) {
         attempt([&] { look_at_numbers(table); });
@@ -189,8 +194,7 @@ inspection inspector::inspect() {
         attempt([&] { look_at_reference(checked); });
     }
     for (const row_fault& fault : row_faults()) {
-        attempt(
-            [&] { report_rows(fault.what.toString(), fault.table, fault.condition.toString()); });
+        attempt([&] { report_rows(fault.what, fault.table, fault.condition.toString()); });
     }
     for (const number_column& column : number_columns()) {
         attempt([&] { look_at_telephone_numbers(column); });
@@ -211,10 +215,10 @@ inspection inspect(physical_database& database) {
 QString lines(const inspection& found) {
     QString text;
     for (const QString& note : found.notes) {
-        text += u"note: %1\n"_s.arg(note);
+        text += texts::tr("note: %1\n").arg(note);
     }
     for (const QString& finding : found.findings) {
-        text += u"finding: %1\n"_s.arg(finding);
+        text += texts::tr("finding: %1\n").arg(finding);
     }
     return text;
 }

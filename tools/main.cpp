@@ -40,14 +40,15 @@ const auto& commands() {
 }
 
 QString overview() {
-    QString text = u"Usage: smsdb COMMAND …\n\nLooks after the database of an office.\n\n"_s;
+    QString text =
+        texts::tr("Usage: smsdb COMMAND …\n\nLooks after the database of an office.\n\n");
     for (const command& offered : commands()) {
         if (!offered.summary.isEmpty()) {
             text += u"  %1 %2\n"_s.arg(offered.name, -17).arg(offered.summary);
         }
     }
-    return text +
-           u"\nsmsdb COMMAND --help tells how a command is used; smsdb --version the version.\n"_s;
+    return text + texts::tr("\nsmsdb COMMAND --help tells how a command is used; smsdb --version "
+                            "the version.\n");
 }
 
 int run(const command& wanted, const QStringList& arguments) {
@@ -56,7 +57,7 @@ int run(const command& wanted, const QStringList& arguments) {
     parser.addOptions(wanted.options);
     const bool understood = parser.parse(arguments);
     if (parser.isSet(u"help"_s)) {
-        print(wanted.help.toString());
+        print(wanted.help);
         return exit_status::clean;
     }
     const QStringList operands = parser.positionalArguments();
@@ -83,7 +84,7 @@ int run(QStringList arguments) {
         return exit_status::clean;
     }
     if (name == u"-v" || name == u"--version") {
-        print(u"smsdb %1\n"_s.arg(QString::fromLatin1(SMSDB_VERSION)));
+        print(texts::tr("smsdb %1\n").arg(QString::fromLatin1(SMSDB_VERSION)));
         return exit_status::clean;
     }
     const auto* wanted = std::find_if(commands().begin(), commands().end(),

@@ -6,6 +6,7 @@
 #include "platform/file_owner.h"
 #include "platform/termination.h"
 #include "tools/command.h"
+#include "tools/texts.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -15,14 +16,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 [[noreturn]] void fail(const QString& path, const QString& reason) {
-    throw failure(u"%1: cannot be written: %2"_s.arg(path, reason));
+    throw failure(texts::tr("%1: cannot be written: %2").arg(path, reason));
 }
 
 /// A log beside another database than its own would be taken for the other's.
 void refuse_logs(const QString& place) {
     for (const QString& log : {place + u"-wal"_s, place + u"-journal"_s}) {
         if (QFileInfo::exists(log)) {
-            throw failure(u"%1: is in the way; it belongs to a database that is gone"_s.arg(log));
+            throw failure(
+                texts::tr("%1: is in the way; it belongs to a database that is gone").arg(log));
         }
     }
 }
@@ -36,7 +38,7 @@ new_file::new_file(const QString& place, existing there)
       lock_(place + u".smsdb-lock"_s) {
     const QFileInfo old(place);
     if (there == existing::keep && (old.exists() || old.isSymLink())) {
-        throw failure(u"%1: exists already"_s.arg(place));
+        throw failure(texts::tr("%1: exists already").arg(place));
     }
     if (there == existing::keep) {
         refuse_logs(place);
@@ -46,8 +48,8 @@ new_file::new_file(const QString& place, existing there)
     lock_.setStaleLockTime(1000);
     if (!lock_.tryLock(0)) {
         fail(place, lock_.error() == QLockFile::LockFailedError
-                        ? u"another run is writing it"_s
-                        : u"no file can be made in its folder"_s);
+                        ? texts::tr("another run is writing it")
+                        : texts::tr("no file can be made in its folder"));
     }
     remove_on_termination(parts() + QStringList(place + u".smsdb-lock"_s));
     remove_parts();
@@ -87,7 +89,7 @@ void new_file::take_ownership_of_replaced() {
     const QFileInfo made(part_);
     if (made.ownerId() != wanted.ownerId() || made.groupId() != wanted.groupId() ||
         !QFile::setPermissions(part_, QFile::permissions(place_))) {
-        fail(place_, u"only its owner can replace it"_s);
+        fail(place_, texts::tr("only its owner can replace it"));
     }
 }
 

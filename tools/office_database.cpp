@@ -8,6 +8,7 @@
 #include "platform/data_error.h"
 #include "tools/command.h"
 #include "tools/console.h"
+#include "tools/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,8 +30,8 @@ void require_tables(physical_database& database, const QString& file) {
         }
     }
     if (!missing.isEmpty()) {
-        throw failure(
-            u"%1: is no database of this system: it has no table %2"_s.arg(file, some_of(missing)));
+        throw failure(texts::tr("%1: is no database of this system: it has no table %2")
+                          .arg(file, some_of(missing)));
     }
 }
 
@@ -55,10 +56,11 @@ void require_office(physical_database& database, const QString& file, office_use
     if (version == newest || wanted == office_use::upgrading) {
         return;
     }
-    const QString told =
-        u"%1: is of an older version, %2 and not %3"_s.arg(file).arg(version).arg(newest);
     if (wanted == office_use::writing) {
-        throw failure(told + u"; upgrade it first (see smsdb upgrade --help)"_s);
+        throw failure(texts::tr("%1: is of an older version, %2 and not %3; upgrade it first (see "
+                                "smsdb upgrade --help)")
+                          .arg(file, QString::number(version), QString::number(newest)));
     }
-    complain(told + u" (see smsdb upgrade --help)"_s);
+    complain(texts::tr("%1: is of an older version, %2 and not %3 (see smsdb upgrade --help)")
+                 .arg(file, QString::number(version), QString::number(newest)));
 }

@@ -6,6 +6,7 @@
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/office_database.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 
@@ -13,7 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb renumber FILE
+QString help() {
+    return texts::tr(R"(Usage: smsdb renumber FILE
 
 Closes up the numbers of what nothing points at in the database FILE, for when they run out: messages sent
 and received, group sends, memberships, rights and the operation log are numbered from 1 in their order,
@@ -25,7 +27,8 @@ Every client must be closed: the command refuses to work while another program h
 can open it until it is done. Make a backup first (smsdb backup).
 
 Exit status: 0 done; 2 not done, and every number is as it was.
-)";
+)");
+}
 
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().first();
@@ -33,7 +36,7 @@ int run(const QCommandLineParser& arguments) {
     transaction renumbering = closing_up::keep_to_oneself(*database, file);
     const QStringList next = closing_up::close_up(*database);
     database->write_ahead();
-    conclude(u"next numbers: %1\n"_s.arg(next.join(u", "_s)),
+    conclude(texts::tr("next numbers: %1\n").arg(next.join(u", "_s)),
              [&renumbering] { renumbering.commit(); });
     closing_up::shrink(*database);
     return exit_status::clean;
@@ -42,5 +45,5 @@ int run(const QCommandLineParser& arguments) {
 } // namespace
 
 command renumber_command() {
-    return {u"renumber"_s, u"close up numbers that run out"_s, help, 1, {}, run};
+    return {u"renumber"_s, texts::tr("close up numbers that run out"), help(), 1, {}, run};
 }

@@ -8,6 +8,7 @@
 #include "tools/console.h"
 #include "tools/database_copy.h"
 #include "tools/new_file.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -18,7 +19,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb restore BACKUP FILE
+QString help() {
+    return texts::tr(R"(Usage: smsdb restore BACKUP FILE
 
 Puts what the backup BACKUP holds in the place of the database FILE, and makes FILE where there is none.
 Every client must be closed: the command refuses to work while another program has FILE open. Where FILE
@@ -32,7 +34,8 @@ A BACKUP that is damaged, holds not all tables of this system or was made by a n
 One of an older version is restored as it is; the next client that starts upgrades it (see smsdb upgrade).
 
 Exit status: 0 restored; 2 not restored, and FILE is as it was.
-)";
+)");
+}
 
 namespace fs = std::filesystem;
 
@@ -78,8 +81,8 @@ void keep_replaced(const QString& place) {
         }
         fs::remove(path_of(place + u"-shm"_s));
     } catch (const fs::filesystem_error& error) {
-        throw failure(u"%1: cannot be kept as %2: %3"_s.arg(place, kept,
-                                                            qt_error_string(error.code().value())));
+        throw failure(texts::tr("%1: cannot be kept as %2: %3")
+                          .arg(place, kept, qt_error_string(error.code().value())));
     }
 }
 
@@ -88,10 +91,11 @@ void replace(new_file& made, const QString& place, const QString& told) {
     fold_log_of(place);
     const sole_use alone(place);
     made.take_ownership_of_replaced();
-    conclude(told + u"what was there is now %1.before-restore\n"_s.arg(place), [&made, &place] {
-        keep_replaced(place);
-        made.put_in_place();
-    });
+    conclude(told + texts::tr("what was there is now %1.before-restore\n").arg(place),
+             [&made, &place] {
+                 keep_replaced(place);
+                 made.put_in_place();
+             });
 }
 
 int run(const QCommandLineParser& arguments) {
@@ -99,12 +103,12 @@ int run(const QCommandLineParser& arguments) {
     const QString place = end_of_links(arguments.positionalArguments().at(1));
     std::error_code none_there;
     if (fs::equivalent(path_of(backup), path_of(place), none_there)) {
-        throw failure(u"%1: is the database itself"_s.arg(backup));
+        throw failure(texts::tr("%1: is the database itself").arg(backup));
     }
     const bool replaces = QFileInfo::exists(place);
     new_file made(place, replaces ? existing::replace : existing::keep);
     copy_database(backup, made.path(), place);
-    const QString told = u"restored %1 from %2\n"_s.arg(place, backup);
+    const QString told = texts::tr("restored %1 from %2\n").arg(place, backup);
     if (!replaces) {
         conclude(told, [&made] { made.put_in_place(); });
         return exit_status::clean;
@@ -114,7 +118,7 @@ int run(const QCommandLineParser& arguments) {
     } catch (const DataError& error) {
         if (error.kind() == DataError::Kind::locked) {
             throw failure(
-                u"%1: is open in a client or another program; close it first"_s.arg(place));
+                texts::tr("%1: is open in a client or another program; close it first").arg(place));
         }
         throw failure(describe(error, place));
     }
@@ -124,5 +128,5 @@ int run(const QCommandLineParser& arguments) {
 } // namespace
 
 command restore_command() {
-    return {u"restore"_s, u"put a backup in the place of a database"_s, help, 2, {}, run};
+    return {u"restore"_s, texts::tr("put a backup in the place of a database"), help(), 2, {}, run};
 }

@@ -4,12 +4,13 @@
 #pragma once
 
 #include <QList>
+#include <QString>
 #include <QStringView>
 
 /// What makes a row unusable for the client, though the database takes it.
 struct row_fault {
     QStringView table;
-    QStringView what;
+    QString what;
     QStringView condition; ///< on a row of the table
 };
 

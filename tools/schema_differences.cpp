@@ -6,6 +6,7 @@
 #include "data/schema.h"
 #include "platform/data_error.h"
 #include "platform/database/physical_database.h"
+#include "tools/texts.h"
 
 #include <algorithm>
 
@@ -43,6 +44,13 @@ const schema_object* find_like(const QList<schema_object>& objects, const schema
     return found == objects.cend() ? nullptr : &*found;
 }
 
+QString kind_shown(const schema_object& object) {
+    return object.kind == u"table"   ? texts::tr("table")
+           : object.kind == u"view"  ? texts::tr("view")
+           : object.kind == u"index" ? texts::tr("index")
+                                     : texts::tr("trigger");
+}
+
 QStringList columns_of(physical_database& database, const QString& table) {
     return database.column(u"SELECT lower(name) FROM pragma_table_info('%1')"_s.arg(table));
 }
@@ -76,12 +84,14 @@ void schema_comparison::compare_versions() {
     const int newest = schema_version_of(fresh_);
     if (version < newest) {
         found_.findings.append(
-            u"is of an older version, %1 and not %2 (see smsdb upgrade)"_s.arg(version).arg(
-                newest));
+            texts::tr("is of an older version, %1 and not %2 (see smsdb upgrade)")
+                .arg(version)
+                .arg(newest));
     } else if (version > newest) {
         found_.findings.append(
-            u"is of a newer version, %1 and not %2: it needs a newer smsdb"_s.arg(version).arg(
-                newest));
+            texts::tr("is of a newer version, %1 and not %2: it needs a newer smsdb")
+                .arg(version)
+                .arg(newest));
     }
 }
 
@@ -94,14 +104,14 @@ bool schema_comparison::has_all_columns(const schema_object& wanted) {
             throw;
         }
         // a view over something that is missing
-        put_down_incomplete(
-            u"%1 %2 cannot be read: %3"_s.arg(wanted.kind, wanted.name, error.detail()));
+        put_down_incomplete(texts::tr("%1 %2 cannot be read: %3")
+                                .arg(kind_shown(wanted), wanted.name, error.detail()));
         return false;
     }
     bool has_all = true;
     for (const QString& column : columns_of(fresh_, wanted.name)) {
         if (!there.contains(column)) {
-            put_down_incomplete(u"column %1.%2 is missing"_s.arg(wanted.name, column));
+            put_down_incomplete(texts::tr("column %1.%2 is missing").arg(wanted.name, column));
             has_all = false;
         }
     }
@@ -111,11 +121,11 @@ bool schema_comparison::has_all_columns(const schema_object& wanted) {
 void schema_comparison::compare_object(const schema_object& wanted, const schema_object* there) {
     const bool is_index = wanted.kind == u"index";
     if (there == nullptr) {
-        found_.findings.append(u"%1 %2 is missing"_s.arg(wanted.kind, wanted.name));
+        found_.findings.append(texts::tr("%1 %2 is missing").arg(kind_shown(wanted), wanted.name));
         found_.is_complete = found_.is_complete && is_index;
     } else if ((is_index || has_all_columns(wanted)) && there->definition != wanted.definition) {
-        found_.findings.append(
-            u"%1 %2 is defined otherwise than in a fresh database"_s.arg(wanted.kind, wanted.name));
+        found_.findings.append(texts::tr("%1 %2 is defined otherwise than in a fresh database")
+                                   .arg(kind_shown(wanted), wanted.name));
     }
 }
 
@@ -128,7 +138,8 @@ schema_differences schema_comparison::compare() {
     }
     for (const schema_object& object : there) {
         if (find_like(wanted, object) == nullptr) {
-            found_.notes.append(u"%1 %2 is none of this system's"_s.arg(object.kind, object.name));
+            found_.notes.append(
+                texts::tr("%1 %2 is none of this system's").arg(kind_shown(object), object.name));
         }
     }
     return found_;

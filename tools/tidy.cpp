@@ -8,6 +8,7 @@
 #include "tools/console.h"
 #include "tools/office_database.h"
 #include "tools/stored_numbers.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 
@@ -15,7 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb tidy [--numbers] [--dry-run] FILE
+QString help() {
+    return texts::tr(R"(Usage: smsdb tidy [--numbers] [--dry-run] FILE
 
 Takes out of the database FILE what deleting leaves behind and no screen shows: rights of operators, and
 memberships of customers or classes, that are not there. Each is told, a line each, before it goes. Also
@@ -29,7 +31,8 @@ while clients are working in FILE. Make a backup first (smsdb backup).
   --dry-run   tells what would happen, and changes nothing
 
 Exit status: 0 done, or nothing to do; 2 nothing done.
-)";
+)");
+}
 
 /// Takes out what nothing shows any more; returns what that was, a line each.
 QString remove_leftovers(physical_database& database) {
@@ -43,8 +46,8 @@ QString remove_leftovers(physical_database& database) {
         for (const QStringList& row : database.texts(
                  u"SELECT rowid, ifnull(%1, 'Null') FROM %2 WHERE %3 ORDER BY rowid"_s.arg(
                      checked.column.name, table, condition))) {
-            told += u"%1 %2: taken out: there is no %3 %4\n"_s.arg(
-                table, row.at(0), checked.column.target, row.at(1));
+            told += texts::tr("%1 %2: taken out: there is no %3 %4\n")
+                        .arg(table, row.at(0), checked.column.target, row.at(1));
         }
         database.execute(u"DELETE FROM %1 WHERE %2"_s.arg(table, condition));
     }
@@ -58,11 +61,13 @@ QString mend_numbers(physical_database& database) {
         bound_statement change(database, u"UPDATE %1 SET mobile = ? WHERE %2 = ?"_s.arg(
                                              column.table, find_table(column.table)->key()));
         for (const stored_number& number : untidy_numbers(database, column)) {
-            const QString where = u"%1 %2: "_s.arg(column.table).arg(number.row);
+            const QString row = QString::number(number.row);
             if (number.dialled.isEmpty()) {
-                told += where + u"%1 is no number and stays\n"_s.arg(shown(number.written));
+                told += texts::tr("%1 %2: %3 is no number and stays\n")
+                            .arg(column.table, row, shown(number.written));
             } else {
-                told += where + u"%1 becomes %2\n"_s.arg(shown(number.written), number.dialled);
+                told += texts::tr("%1 %2: %3 becomes %4\n")
+                            .arg(column.table, row, shown(number.written), number.dialled);
                 change.run({number.dialled, number.row});
             }
         }
@@ -78,8 +83,8 @@ int run(const QCommandLineParser& arguments) {
     const QString told =
         arguments.isSet(u"numbers"_s) ? mend_numbers(*database) : remove_leftovers(*database);
     database->write_ahead();
-    const QString head = is_trial ? u"dry run, nothing is changed:\n"_s : QString();
-    conclude(head + (told.isEmpty() ? u"nothing to tidy\n"_s : told), [&] {
+    const QString head = is_trial ? texts::tr("dry run, nothing is changed:\n") : QString();
+    conclude(head + (told.isEmpty() ? texts::tr("nothing to tidy\n") : told), [&] {
         if (!is_trial) {
             tidying.commit();
         }
@@ -90,10 +95,6 @@ int run(const QCommandLineParser& arguments) {
 } // namespace
 
 command tidy_command() {
-    return {u"tidy"_s,
-            u"take out what deleting leaves, or mend numbers"_s,
-            help,
-            1,
-            {QCommandLineOption(u"numbers"_s), QCommandLineOption(u"dry-run"_s)},
-            run};
+    return {u"tidy"_s, texts::tr("take out what deleting leaves, or mend numbers"),          help(),
+            1,         {QCommandLineOption(u"numbers"_s), QCommandLineOption(u"dry-run"_s)}, run};
 }

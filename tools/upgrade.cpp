@@ -8,6 +8,7 @@
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/office_database.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 
@@ -15,7 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb upgrade FILE
+QString help() {
+    return texts::tr(R"(Usage: smsdb upgrade FILE
 
 Brings the database FILE of an older version of this system up to the version of this one, as a client does
 when it starts, and tells from which version to which. FILE as it was is kept beside it as
@@ -29,7 +31,8 @@ The commands that only read (check, backup, export-customers, and restore its ba
 version too and say so; those that write refuse it.
 
 Exit status: 0 upgraded, or nothing to do; 2 not upgraded.
-)";
+)");
+}
 
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().first();
@@ -37,13 +40,14 @@ int run(const QCommandLineParser& arguments) {
     const int found = schema_version_of(*database);
     const int newest = newest_schema_version();
     if (found == newest) {
-        print(u"%1 is of version %2 already; nothing to upgrade\n"_s.arg(file).arg(newest));
+        print(texts::tr("%1 is of version %2 already; nothing to upgrade\n")
+                  .arg(file, QString::number(newest)));
         return exit_status::clean;
     }
     closing_up::keep_to_oneself(*database, file).commit(); // it stays its own
-    conclude(u"upgraded %1 from version %2 to %3; as it was it is kept as %4\n"_s.arg(
-                 file, QString::number(found), QString::number(newest),
-                 copy_before_step(file, found + 1)),
+    conclude(texts::tr("upgraded %1 from version %2 to %3; as it was it is kept as %4\n")
+                 .arg(file, QString::number(found), QString::number(newest),
+                      copy_before_step(file, found + 1)),
              [&] { upgrade_database(*database, file); });
     return exit_status::clean;
 }
@@ -51,5 +55,7 @@ int run(const QCommandLineParser& arguments) {
 } // namespace
 
 command upgrade_command() {
-    return {u"upgrade"_s, u"bring a database of an older version up to date"_s, help, 1, {}, run};
+    return {u"upgrade"_s, texts::tr("bring a database of an older version up to date"),
+            help(),       1,
+            {},           run};
 }

@@ -14,6 +14,7 @@
 #include "tools/old_format/losses.h"
 #include "tools/old_format/records.h"
 #include "tools/old_format/table_filler.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 #include <QMap>
@@ -26,7 +27,8 @@ namespace old_format {
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb import [--charset NAME] OLD.mdb NEW
+QString help() {
+    return texts::tr(R"(Usage: smsdb import [--charset NAME] OLD.mdb NEW
 
 Makes the database NEW from OLD.mdb, a database of the old format (Jet 3 or Jet 4, as Access 97 to 2003
 write them). OLD.mdb is only read. NEW must not exist; it appears when everything is in it.
@@ -54,7 +56,8 @@ an older copy. Where a single text is damaged, the row is carried without it, an
 older copy may still have it. What was changed within a text cannot be noticed.
 
 Exit status: 0 all carried, and no findings; 1 made, with losses or findings; 2 not made.
-)";
+)");
+}
 
 /// The import of one old database into a fresh one.
 class importer {
@@ -93,7 +96,7 @@ void importer::begin_table(const records::record& table) {
     }
     table_ = known->name.toString();
     if (counts_.contains(table_)) {
-        throw failure(u"the old database is damaged: it has two tables %1"_s.arg(table_));
+        throw failure(texts::tr("the old database is damaged: it has two tables %1").arg(table_));
     }
     counts_.insert(table_, {});
     const QString target =
@@ -119,8 +122,8 @@ void importer::finish_table() {
         counts_[table_] = {filler_->rows_read(), filler_->rows_written()};
         filler_.reset();
     } else if (!table_.isEmpty()) {
-        lost_.add(u"table %1"_s.arg(table_),
-                  u"this system has no such table (%1 row(s))"_s.arg(unknown_rows_));
+        lost_.add(texts::tr("table %1").arg(table_),
+                  texts::tr("this system has no such table (%1 row(s))").arg(unknown_rows_));
     }
 }
 
@@ -129,7 +132,8 @@ void importer::finish_table() {
 void importer::report_missing() {
     for (const table_description& table : all_tables()) {
         if (!table.is_programs_own && !counts_.contains(table.name.toString())) {
-            lost_.add(u"table %1"_s.arg(table.name), u"the old database has none"_s);
+            lost_.add(texts::tr("table %1").arg(table.name),
+                      texts::tr("the old database has none"));
         }
     }
 }
@@ -155,26 +159,27 @@ void importer::run(records& old) {
 }
 
 QString importer::report() const {
-    const QString line = u"%1%2%3\n"_s;
-    QString text = line.arg(u"table"_s, -12).arg(u"read"_s, 8).arg(u"written"_s, 10);
+    const auto line = [](const QString& table, const QString& read, const QString& written) {
+        return padded(table, -12) + padded(read, 8) + padded(written, 10) + u'\n';
+    };
+    QString text = line(texts::tr("table"), texts::tr("read"), texts::tr("written"));
     for (const table_description& description : all_tables()) {
         const QString table = description.name.toString();
         const counts counted = counts_.value(table);
-        const bool is_fresh = counted.read == 0;
         const qint64 written = list_definitions::hold(table)
                                    ? list_definitions::carried_rows(database_, table)
                                    : counted.written;
-        text += line.arg(table, -12)
-                    .arg(counts_.contains(table) ? QString::number(counted.read) : u"none"_s, 8)
-                    .arg(is_fresh ? u"fresh"_s : QString::number(written), 10);
+        text +=
+            line(table, counts_.contains(table) ? QString::number(counted.read) : texts::tr("none"),
+                 counted.read == 0 ? texts::tr("fresh") : QString::number(written));
     }
     text += u'\n' + lost_.lines();
     const qint64 waiting = database_.number(
         u"SELECT count(*) FROM sendsms WHERE sendisok = 0 AND stime IS NOT NULL"_s);
     if (waiting > 0) {
-        text +=
-            u"%1 message(s) wait to be sent; the next client that starts with the gateway sends those that are due\n"_s
-                .arg(waiting);
+        text += texts::tr("%1 message(s) wait to be sent; the next client that starts with the "
+                          "gateway sends those that are due\n")
+                    .arg(waiting);
     }
     return text;
 }
@@ -201,19 +206,16 @@ int run(const QCommandLineParser& arguments) {
     } catch (const DataError& error) {
         throw failure(describe(error, place));
     }
-    conclude(report + u"imported %1 to %2\n"_s.arg(old, place), [&made] { made.put_in_place(); });
+    conclude(report + texts::tr("imported %1 to %2\n").arg(old, place),
+             [&made] { made.put_in_place(); });
     return is_whole ? exit_status::clean : exit_status::findings;
 }
 
 } // namespace
 
 command import_command() {
-    return {u"import"_s,
-            u"make a database from one of the old format"_s,
-            help,
-            2,
-            {QCommandLineOption(u"charset"_s, {}, u"name"_s, u"GBK"_s)},
-            run};
+    return {u"import"_s, texts::tr("make a database from one of the old format"),     help(),
+            2,           {QCommandLineOption(u"charset"_s, {}, u"name"_s, u"GBK"_s)}, run};
 }
 
 } // namespace old_format

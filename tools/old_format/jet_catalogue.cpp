@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tools/old_format/jet_catalogue.h"
+#include "tools/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,7 +24,7 @@ QList<table_place> tables_of(jet_file& file) {
     const qsizetype type = columns.indexOf(u"Type"_s);
     const qsizetype flags = columns.indexOf(u"Flags"_s);
     if (id < 0 || name < 0 || type < 0 || flags < 0) {
-        throw damaged(u"it does not tell what tables it holds"_s);
+        throw damaged(texts::tr("it does not tell what tables it holds"));
     }
     catalogue.for_each_row([&](const QJsonArray& row) {
         MdbCatalogEntry entry{};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tools/old_format/jet_file.h"
+#include "tools/texts.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -24,22 +25,23 @@ number little_endian(QByteArrayView bytes, qsizetype at) {
 void check_header(const QString& path) {
     QFile file(path);
     if (!QFileInfo(path).isFile()) {
-        throw failure(u"there is no such file"_s);
+        throw failure(texts::tr("there is no such file"));
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        throw failure(u"cannot be opened: %1"_s.arg(file.errorString()));
+        throw failure(texts::tr("cannot be opened: %1").arg(file.errorString()));
     }
     const QByteArray header = file.read(21);
     const bool is_newer = header.startsWith(QByteArrayView("\0\1\0\0Standard ACE DB", 19)) ||
                           (header.size() == 21 && header.at(20) > 1);
     if (is_newer) {
-        throw failure(u"has a newer format than that of an .mdb file; save it as one first"_s);
+        throw failure(
+            texts::tr("has a newer format than that of an .mdb file; save it as one first"));
     }
     if (header.size() < 21 || !header.startsWith(QByteArrayView("\0\1\0\0Standard Jet DB", 19))) {
-        throw failure(u"is no database of the old format"_s);
+        throw failure(texts::tr("is no database of the old format"));
     }
     if (file.size() % (header.at(20) == 0 ? 2048 : 4096) != 0) {
-        throw damaged(u"its end is missing"_s);
+        throw damaged(texts::tr("its end is missing"));
     }
 }
 
@@ -70,7 +72,7 @@ jet_file::jet_file(const QString& path, const QString& charset)
     qputenv("MDB_JET3_CHARSET", charset.toLatin1()); // for the names of columns
     handle_.reset(mdb_open(QFile::encodeName(path).constData(), MDB_NOFLAGS));
     if (handle_ == nullptr) {
-        throw damaged(u"its head cannot be read"_s);
+        throw damaged(texts::tr("its head cannot be read"));
     }
 }
 

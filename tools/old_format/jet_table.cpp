@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tools/old_format/jet_table.h"
+#include "tools/texts.h"
 
 #include <QDateTime>
 #include <QJsonObject>
@@ -87,12 +88,12 @@ jet_table::jet_table(jet_file& file, const table_place& which)
     table_.reset(mdb_read_table(entry_.get()));
     if (table_ == nullptr || mdb_read_columns(table_.get()) == nullptr ||
         table_->columns->len != table_->num_cols || !columns_are_sound()) {
-        refuse(u"its columns cannot be read"_s);
+        refuse(texts::tr("its columns cannot be read"));
     }
     // The library takes the map of the table's pages for granted.
     constexpr size_t least_map = 5;
     if (table_->usage_map == nullptr || table_->map_sz < least_map) {
-        refuse(u"its pages cannot be found"_s);
+        refuse(texts::tr("its pages cannot be found"));
     }
 }
 
@@ -128,8 +129,8 @@ bool jet_table::columns_are_sound() {
 }
 
 void jet_table::refuse(const QString& what) const {
-    throw damaged(u"table %1: %2"_s.arg(
-        QString::fromUtf8(static_cast<const char*>(entry_->object_name)), what));
+    throw damaged(texts::tr("table %1: %2")
+                      .arg(QString::fromUtf8(static_cast<const char*>(entry_->object_name)), what));
 }
 
 std::span<MdbColumn* const> jet_table::column_list() const {
@@ -153,7 +154,7 @@ void jet_table::for_each_place(const std::function<void(int row, const place&)>&
         for (int row = 0; row < rows; ++row) {
             place found;
             if (mdb_find_row(handle, row, &found.start, &found.length) != 0) {
-                refuse(u"a row cannot be found"_s);
+                refuse(texts::tr("a row cannot be found"));
             }
             const int flags = found.start;
             found.start &= jet_file::offset_mask;
@@ -173,7 +174,7 @@ QSet<quint32> jet_table::moved_rows() {
     for_each_place([this, &targets](int /*row*/, const place& found) {
         if (found.has_moved_away) {
             if (found.length < 4) {
-                refuse(u"a row that was moved cannot be found"_s);
+                refuse(texts::tr("a row that was moved cannot be found"));
             }
             targets.insert(qFromLittleEndian<quint32>(&file_.handle()->pg_buf[found.start]));
         }
@@ -193,7 +194,7 @@ void jet_table::for_each_row(const std::function<void(const QJsonArray&)>& take)
         ++rows;
     });
     if (rows != table_->num_rows) {
-        refuse(u"%1 row(s) where there should be %2"_s.arg(rows).arg(table_->num_rows));
+        refuse(texts::tr("%1 row(s) where there should be %2").arg(rows).arg(table_->num_rows));
     }
 }
 
@@ -202,7 +203,7 @@ const MdbColumn& jet_table::column_of(const MdbField& field) const {
 }
 
 QJsonArray jet_table::row_at(const place& found) {
-    const auto refuse_row = [this] { refuse(u"a row cannot be read"_s); };
+    const auto refuse_row = [this] { refuse(texts::tr("a row cannot be read")); };
     if (found.length < 2) {
         refuse_row();
     }
@@ -216,7 +217,7 @@ QJsonArray jet_table::row_at(const place& found) {
     for (MdbField& field : fields) {
         const bool has_value = marks.has_value(column_of(field).col_num);
         if (has_value && field.is_null != 0 && column_of(field).col_type != MDB_BOOL) {
-            refuse(u"a row holds too few values"_s);
+            refuse(texts::tr("a row holds too few values"));
         }
         field.is_null = has_value ? 0 : 1;
     }

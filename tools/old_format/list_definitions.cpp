@@ -7,7 +7,9 @@
 #include "platform/database/transaction.h"
 #include "tools/console.h"
 #include "tools/old_format/losses.h"
+#include "tools/texts.h"
 
+#include <QHash>
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +33,18 @@ QString columns_but_the_key(const table_description& table) {
     return names.join(u", "_s);
 }
 
+/// Why a list, or a column of one, is not carried, by the words of the statements below.
+const QHash<QString, QString>& reasons() {
+    static const QHash<QString, QString> all{
+        {u"password"_s, texts::tr("%1 shows passwords, which no list does")},
+        {u"foreign"_s, texts::tr("%1 is no list of this system")},
+        {u"empty"_s, texts::tr("%1 has no columns; the delivered definition stays")},
+        {u"twice"_s, texts::tr("%1 is defined already")},
+        {u"undefined"_s, texts::tr("%1: its definition is not carried")},
+    };
+    return all;
+}
+
 } // namespace
 
 bool list_definitions::hold(const QString& table) {
@@ -49,21 +63,22 @@ void list_definitions::make_waiting_places(physical_database& database) {
 
 void list_definitions::put_in_place(physical_database& database, losses& lost) {
     database.execute(
-        u"CREATE TEMP TABLE useless_viewitems AS SELECT rowid AS number, ViewNo AS view, 'shows passwords, which no list does' AS reason FROM old_viewitems WHERE trim(keyword) = 'password' COLLATE NOCASE"_s);
+        u"CREATE TEMP TABLE useless_viewitems AS SELECT rowid AS number, ViewNo AS view, 'password' AS reason FROM old_viewitems WHERE trim(keyword) = 'password' COLLATE NOCASE"_s);
     database.execute(
         u"DELETE FROM old_viewitems WHERE rowid IN (SELECT number FROM useless_viewitems)"_s);
     database.execute(
-        u"CREATE TEMP TABLE useless_viewdef AS SELECT rowid AS number, ViewNo AS view, CASE WHEN NOT EXISTS (SELECT 1 FROM viewdef WHERE ViewNo = d.ViewNo) THEN 'is no list of this system' WHEN NOT EXISTS (SELECT 1 FROM old_viewitems i WHERE i.ViewNo = d.ViewNo COLLATE NOCASE) THEN 'has no columns; the delivered definition stays' WHEN EXISTS (SELECT 1 FROM old_viewdef e WHERE e.ViewNo = d.ViewNo COLLATE NOCASE AND e.rowid < d.rowid) THEN 'is defined already' END AS reason FROM old_viewdef d WHERE reason IS NOT NULL"_s);
+        u"CREATE TEMP TABLE useless_viewdef AS SELECT rowid AS number, ViewNo AS view, CASE WHEN NOT EXISTS (SELECT 1 FROM viewdef WHERE ViewNo = d.ViewNo) THEN 'foreign' WHEN NOT EXISTS (SELECT 1 FROM old_viewitems i WHERE i.ViewNo = d.ViewNo COLLATE NOCASE) THEN 'empty' WHEN EXISTS (SELECT 1 FROM old_viewdef e WHERE e.ViewNo = d.ViewNo COLLATE NOCASE AND e.rowid < d.rowid) THEN 'twice' END AS reason FROM old_viewdef d WHERE reason IS NOT NULL"_s);
     database.execute(
         u"DELETE FROM old_viewdef WHERE rowid IN (SELECT number FROM useless_viewdef)"_s);
     database.execute(
-        u"INSERT INTO useless_viewitems SELECT rowid, ViewNo, 'its definition is not carried' FROM old_viewitems i WHERE NOT EXISTS (SELECT 1 FROM old_viewdef d WHERE d.ViewNo = i.ViewNo COLLATE NOCASE)"_s);
+        u"INSERT INTO useless_viewitems SELECT rowid, ViewNo, 'undefined' FROM old_viewitems i WHERE NOT EXISTS (SELECT 1 FROM old_viewdef d WHERE d.ViewNo = i.ViewNo COLLATE NOCASE)"_s);
     database.execute(
         u"DELETE FROM old_viewitems WHERE rowid IN (SELECT number FROM useless_viewitems)"_s);
     for (const QString& table : tables()) {
         for (const QStringList& row :
              database.texts(u"SELECT number, view, reason FROM useless_%1"_s.arg(table))) {
-            lost.add(table, u"%1 %2"_s.arg(shown(row.at(1)), row.at(2)), row.at(0).toLongLong());
+            lost.add(table, reasons().value(row.at(2)).arg(shown(row.at(1))),
+                     row.at(0).toLongLong());
         }
         const QString columns = columns_but_the_key(*find_table(table));
         database.execute(

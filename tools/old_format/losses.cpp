@@ -4,6 +4,7 @@
 #include "tools/old_format/losses.h"
 
 #include "tools/console.h"
+#include "tools/texts.h"
 
 #include <QStringList>
 
@@ -47,7 +48,7 @@ QString losses::lines() const {
     for (auto entry = rows_.cbegin(); entry != rows_.cend(); ++entry) {
         const auto& [what, reason] = entry.key();
         const QString rows = entry->isEmpty() ? QString() : u" "_s + ranges(*entry);
-        text += harmless(u"not carried: %1%2: %3"_s.arg(what, rows, reason)) + u'\n';
+        text += harmless(texts::tr("not carried: %1%2: %3").arg(what, rows, reason)) + u'\n';
     }
     return text;
 }

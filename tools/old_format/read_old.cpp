@@ -5,6 +5,7 @@
 
 #include "platform/process_limits.h"
 #include "tools/old_format/jet_catalogue.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -18,18 +19,20 @@ namespace old_format {
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb read-old OLD.mdb --charset NAME
+QString help() {
+    return texts::tr(R"(Usage: smsdb read-old OLD.mdb --charset NAME
 
 What smsdb import runs to read the old file, so that a damaged one ends this process and no other.
 Writes a line of JSON a record: ["table", its name, its columns …], ["row", its values …], and at the
 end ["end"], or ["damaged", how] or ["failed", the reason].
-)";
+)");
+}
 
 void write(const QJsonArray& record) {
     const QByteArray line = QJsonDocument(record).toJson(QJsonDocument::Compact) + '\n';
     if (std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout) !=
         static_cast<size_t>(line.size())) {
-        throw failure(u"nobody listens"_s);
+        throw failure(texts::tr("nobody listens"));
     }
 }
 
@@ -66,7 +69,7 @@ int run(const QCommandLineParser& arguments) {
 } // namespace
 
 command read_old_command() {
-    return {u"read-old"_s, {}, help, 1, {QCommandLineOption(u"charset"_s, {}, u"name"_s)}, run};
+    return {u"read-old"_s, {}, help(), 1, {QCommandLineOption(u"charset"_s, {}, u"name"_s)}, run};
 }
 
 } // namespace old_format

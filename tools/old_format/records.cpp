@@ -5,6 +5,7 @@
 
 #include "tools/command.h"
 #include "tools/console.h"
+#include "tools/texts.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -45,7 +46,7 @@ records::~records() {
 }
 
 void records::refuse_damaged(const QString& how) const {
-    throw failure(u"%1: is damaged: %2 (see smsdb import --help)"_s.arg(path_, how));
+    throw failure(texts::tr("%1: is damaged: %2 (see smsdb import --help)").arg(path_, how));
 }
 
 QJsonArray records::next_line() {
@@ -55,10 +56,10 @@ QJsonArray records::next_line() {
         const qsizetype seen = pending_.size() - taken_;
         pending_.remove(0, std::exchange(taken_, 0));
         if (seen >= longest_line) {
-            refuse_damaged(u"reading it gives no sense"_s);
+            refuse_damaged(texts::tr("reading it gives no sense"));
         }
         if (reader_.bytesAvailable() == 0 && !reader_.waitForReadyRead(-1)) {
-            refuse_damaged(u"reading it came to no good end"_s);
+            refuse_damaged(texts::tr("reading it came to no good end"));
         }
         pending_ += reader_.readAll();
         end = pending_.indexOf('\n', seen);
@@ -69,7 +70,7 @@ QJsonArray records::next_line() {
     QJsonArray fields =
         QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size())).array();
     if (fields.isEmpty() || allowance_ < 0) {
-        refuse_damaged(u"reading it gives no sense"_s);
+        refuse_damaged(texts::tr("reading it gives no sense"));
     }
     return fields;
 }
@@ -97,7 +98,7 @@ records::record records::next() {
     }
     if (kind != u"row" || fields.size() != current_.columns.size() || fields.isEmpty() ||
         !std::all_of(fields.cbegin(), fields.cend(), is_value)) {
-        refuse_damaged(u"reading it gives no sense"_s);
+        refuse_damaged(texts::tr("reading it gives no sense"));
     }
     current_.kind = record::Kind::row;
     current_.values = fields;

@@ -4,6 +4,7 @@
 #include "tools/old_format/table_filler.h"
 
 #include "tools/inspection.h"
+#include "tools/texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,15 +43,16 @@ table_filler::table_filler(physical_database& database, losses& lost,
         } else if (column.kind == column_kind::key && is_numbered_here(table.name)) {
             continue;
         } else {
-            lost_.add(u"column %1.%2"_s.arg(table.name, name), u"the old database has none"_s);
+            lost_.add(texts::tr("column %1.%2").arg(table.name, name),
+                      texts::tr("the old database has none"));
         }
         names.append(name);
         columns_.append(wanted);
     }
     for (qsizetype i = 0; i < old_columns.size(); ++i) {
         if (!used.contains(i)) {
-            lost_.add(u"column %1.%2"_s.arg(table.name, old_columns.at(i)),
-                      u"this system has no such column"_s);
+            lost_.add(texts::tr("column %1.%2").arg(table.name, old_columns.at(i)),
+                      texts::tr("this system has no such column"));
         }
     }
     if (!used.isEmpty()) {
@@ -88,17 +90,17 @@ QString table_filler::objection(const QList<carried>& values, qint64 number) con
             continue;
         }
         if (!found.value.isValid()) {
-            return u"it has no number"_s;
+            return texts::tr("it has no number");
         }
         if (!found.fault.isEmpty()) {
-            return u"its number is not one of those that a screen can hold, up to %1"_s.arg(
-                last_number);
+            return texts::tr("its number is not one of those that a screen can hold, up to %1")
+                .arg(last_number);
         }
         if (numbers_.contains(number)) {
-            return u"its number is given twice"_s;
+            return texts::tr("its number is given twice");
         }
     }
-    return table_.name == u"parameters" && written_ > 0 ? u"only one row is ever used"_s
+    return table_.name == u"parameters" && written_ > 0 ? texts::tr("only one row is ever used")
                                                         : QString();
 }
 

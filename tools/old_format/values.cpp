@@ -7,6 +7,7 @@
 #include "platform/conversion.h"
 #include "platform/data_error.h"
 #include "tools/console.h"
+#include "tools/texts.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -44,7 +45,7 @@ carried carry_truth(const QJsonValue& value, int yes) {
     try {
         return {to_boolean(text_of(value)) ? yes : 0, {}};
     } catch (const DataError&) {
-        return {0, u"%1 is neither yes nor no"_s.arg(shown(text_of(value)))};
+        return {0, texts::tr("%1 is neither yes nor no").arg(shown(text_of(value)))};
     }
 }
 
@@ -52,7 +53,8 @@ carried carry_number(const QJsonValue& value) {
     try {
         return {to_int16(text_of(value)), {}};
     } catch (const DataError&) {
-        return {0, u"%1 is no whole number from -32768 to 32767"_s.arg(shown(text_of(value)))};
+        return {0,
+                texts::tr("%1 is no whole number from -32768 to 32767").arg(shown(text_of(value)))};
     }
 }
 
@@ -62,14 +64,14 @@ carried carry_moment(const QJsonValue& value) {
         // Which moment that is here does not matter: a clock may have skipped it that night.
         return {fmtdatetime(QDateTime(moment->date, moment->time, Qt::UTC)), {}};
     }
-    return {{}, text.trimmed().isEmpty() ? QString() : u"%1 is no date"_s.arg(shown(text))};
+    return {{}, text.trimmed().isEmpty() ? QString() : texts::tr("%1 is no date").arg(shown(text))};
 }
 
 carried carry_text(const QJsonValue& value) {
     QString text = text_of(value);
     text.replace(QChar::Null, QChar::ReplacementCharacter);
     const bool is_whole = !text.contains(QChar::ReplacementCharacter);
-    return {text, is_whole ? QString() : u"some of its characters cannot be read"_s};
+    return {text, is_whole ? QString() : texts::tr("some of its characters cannot be read")};
 }
 
 } // namespace
@@ -88,8 +90,9 @@ carried carry(const QJsonValue& value, column_kind wanted) {
     if (value.isObject()) {
         const bool takes_texts = wanted == column_kind::text || wanted == column_kind::moment;
         return {takes_texts ? QVariant() : QVariant(0),
-                wanted == column_kind::text ? u"is damaged there, an older copy may still have it"_s
-                                            : u"cannot be read"_s};
+                wanted == column_kind::text
+                    ? texts::tr("is damaged there, an older copy may still have it")
+                    : texts::tr("cannot be read")};
     }
     switch (wanted) {
     case column_kind::key:

@@ -7,6 +7,7 @@
 #include "tools/command.h"
 #include "tools/console.h"
 #include "tools/sheets/sheet.h"
+#include "tools/texts.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -96,47 +97,50 @@ customer_reader::customer_reader(const QString& path, const QStringList& heading
     for (const QString& heading : headings) {
         const QString column = column_of(heading);
         if (!column.isEmpty() && columns_.contains(column)) {
-            throw failure(u"%1: the headings %2 and %3 mean the same"_s.arg(
-                path, shown(headings.at(columns_.indexOf(column))), shown(heading)));
+            throw failure(
+                texts::tr("%1: the headings %2 and %3 mean the same")
+                    .arg(path, shown(headings.at(columns_.indexOf(column))), shown(heading)));
         }
         if (heading.isEmpty()) {
             unnamed_.insert(columns_.size());
         } else if (column.isEmpty()) {
-            sheet_.remarks.append(u"column %1 is not used"_s.arg(shown(heading)));
+            sheet_.remarks.append(texts::tr("column %1 is not used").arg(shown(heading)));
         }
         columns_.append(column);
     }
     if (!columns_.contains(u"mobile"_s)) {
         throw failure(
-            u"%1: no heading names the mobile number (see smsdb import-customers --help): %2"_s.arg(
-                path, shown(headings.join(u' '))));
+            texts::tr(
+                "%1: no heading names the mobile number (see smsdb import-customers --help): %2")
+                .arg(path, shown(headings.join(u' '))));
     }
 }
 
 void customer_reader::remark(const sheet_line& line, const QString& told) {
-    sheet_.remarks.append(u"line %1: %2"_s.arg(line.number).arg(told));
+    sheet_.remarks.append(texts::tr("line %1: %2").arg(line.number).arg(told));
 }
 
 QString customer_reader::objection(const QString& written) {
     static const QRegularExpression rounded(uR"(^[0-9]([.,][0-9]+)?[eE][+]?[0-9]+$)"_s);
     if (written.isEmpty()) {
-        return u"no mobile number"_s;
+        return texts::tr("no mobile number");
     }
     return rounded.match(written).hasMatch()
-               ? u"the spreadsheet has rounded the mobile number to %1; make its column text"_s.arg(
-                     shown(written))
-               : u"no mobile number of 3 to 20 digits but %1"_s.arg(shown(written));
+               ? texts::tr(
+                     "the spreadsheet has rounded the mobile number to %1; make its column text")
+                     .arg(shown(written))
+               : texts::tr("no mobile number of 3 to 20 digits but %1").arg(shown(written));
 }
 
 void customer_reader::look_over(const sheet_line& line, customer_line& customer) {
     static const QRegularExpression line_break(u"[\\r\\n]"_s);
     for (auto value = customer.values.begin(); value != customer.values.end(); ++value) {
         if (value->contains(u'\'')) {
-            remark(line,
-                   u"the client cannot save a text with an apostrophe: %1"_s.arg(shown(*value)));
+            remark(line, texts::tr("the client cannot save a text with an apostrophe: %1")
+                             .arg(shown(*value)));
         }
         if (value.key() != u"memo" && value->contains(line_break)) {
-            remark(line, u"line breaks become blanks: %1"_s.arg(shown(*value)));
+            remark(line, texts::tr("line breaks become blanks: %1").arg(shown(*value)));
             *value = value->simplified();
         }
     }
@@ -147,13 +151,13 @@ void customer_reader::take(const sheet_line& line) {
     for (qsizetype i = 0; i < line.fields.size(); ++i) {
         QString value = unmarked(line.fields.at(i));
         if (i >= columns_.size() && !value.isEmpty()) {
-            remark(line, u"left out: it has more fields than there are headings"_s);
+            remark(line, texts::tr("left out: it has more fields than there are headings"));
             return;
         }
         const QString column = columns_.value(i);
         value = column == u"mobile" ? written_plainly(value) : value;
         if (!value.isEmpty() && unnamed_.remove(i)) {
-            remark(line, u"column %1 is not used: it has no heading"_s.arg(i + 1));
+            remark(line, texts::tr("column %1 is not used: it has no heading").arg(i + 1));
         }
         if (!column.isEmpty() && !value.isEmpty()) {
             customer.values.insert(column, value);
@@ -162,7 +166,7 @@ void customer_reader::take(const sheet_line& line) {
     const QString written = customer.values.value(u"mobile"_s);
     const QString dialled = dialled_number(written);
     if (dialled.isEmpty()) {
-        remark(line, u"left out: "_s + objection(written));
+        remark(line, texts::tr("left out: %1").arg(objection(written)));
         return;
     }
     customer.values.insert(u"mobile"_s, dialled);

@@ -8,6 +8,7 @@
 #include "tools/new_file.h"
 #include "tools/office_database.h"
 #include "tools/sheets/customer_sheet.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 
@@ -15,7 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView help = uR"(Usage: smsdb export-customers FILE CUSTOMERS.csv
+QString help() {
+    return texts::tr(R"(Usage: smsdb export-customers FILE CUSTOMERS.csv
 
 Writes all customers of the database FILE to a new file for a spreadsheet, also while clients are working
 in it: name, mobile, sex, birthday, telephone and remark, in the order of their numbers. CUSTOMERS.csv is
@@ -25,7 +27,8 @@ A text that begins with = + - @ (wide ones too), a tab, a line break or an apost
 before it, so that no spreadsheet takes it for a formula; smsdb import-customers takes it away again.
 
 Exit status: 0 written; 2 not written.
-)";
+)");
+}
 
 int run(const QCommandLineParser& arguments) {
     const QString file = arguments.positionalArguments().at(0);
@@ -43,8 +46,9 @@ int run(const QCommandLineParser& arguments) {
     }
     new_file made(place);
     made.write(content);
-    conclude(u"wrote %1 customer(s) to %2\n"_s.arg(QString::number(customers.size()), place),
-             [&made] { made.put_in_place(); });
+    conclude(
+        texts::tr("wrote %1 customer(s) to %2\n").arg(QString::number(customers.size()), place),
+        [&made] { made.put_in_place(); });
     return exit_status::clean;
 }
 
@@ -52,8 +56,8 @@ int run(const QCommandLineParser& arguments) {
 
 command export_customers_command() {
     return {u"export-customers"_s,
-            u"write the customers to a file for a spreadsheet"_s,
-            help,
+            texts::tr("write the customers to a file for a spreadsheet"),
+            help(),
             2,
             {},
             run};

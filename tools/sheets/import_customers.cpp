@@ -11,6 +11,7 @@
 #include "tools/inspection.h"
 #include "tools/office_database.h"
 #include "tools/sheets/customer_sheet.h"
+#include "tools/texts.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -23,8 +24,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView help =
-    uR"(Usage: smsdb import-customers [--dry-run] [--class NAME] [--duplicates WAY] [--charset NAME]
+QString help() {
+    return texts::tr(
+        R"(Usage: smsdb import-customers [--dry-run] [--class NAME] [--duplicates WAY] [--charset NAME]
                               CUSTOMERS.csv FILE
 
 Puts the customers of a spreadsheet into the database FILE, all of them at once, also while clients are
@@ -54,7 +56,8 @@ it is taken out. An apostrophe at the very beginning of a field is the mark of a
 nor does ="…" around one.
 
 Exit status: 0 every line is in; 1 done, with a report; 2 nothing done.
-)";
+)");
+}
 
 enum class duplicates { skip, add, update };
 
@@ -102,7 +105,7 @@ customer_importer::customer_importer(physical_database& database, duplicates way
     if (class_ == 0) {
         bound_statement(database, u"INSERT INTO cusclass (cname) VALUES (?)"_s).run({into_class});
         class_ = given_number(u"cusclass"_s);
-        remarks_.append(u"class %1 is new"_s.arg(shown(into_class)));
+        remarks_.append(texts::tr("class %1 is new").arg(shown(into_class)));
     }
     for (const QString& cid :
          database.column(u"SELECT cid FROM cgroup WHERE ccid = %1"_s.arg(class_))) {
@@ -113,11 +116,11 @@ customer_importer::customer_importer(physical_database& database, duplicates way
 qint64 customer_importer::given_number(const QString& table) {
     const qint64 number = database_.last_key();
     if (number > last_number) {
-        throw failure(
-            u"the numbers of %1 run out at %2: no more than %3 new one(s) fit; nothing is imported"_s
-                .arg(table)
-                .arg(last_number)
-                .arg(given_.value(table)));
+        throw failure(texts::tr("the numbers of %1 run out at %2: no more than %3 new one(s) fit; "
+                                "nothing is imported")
+                          .arg(table)
+                          .arg(last_number)
+                          .arg(given_.value(table)));
     }
     ++given_[table];
     return number;
@@ -167,11 +170,12 @@ void customer_importer::take(const customer_line& line) {
     const QString mobile = line.values.value(u"mobile"_s);
     const qint64 known = by_mobile_.value(mobile);
     if (known != 0) {
-        const QString done = way_ == duplicates::skip     ? u"skipped"_s
-                             : way_ == duplicates::update ? u"updated"_s
-                                                          : u"added again"_s;
-        remarks_.append(u"line %1: %2: customer %3 has the mobile number %4"_s.arg(
-            QString::number(line.number), done, QString::number(known), shown(mobile)));
+        const QString done = way_ == duplicates::skip     ? texts::tr("skipped")
+                             : way_ == duplicates::update ? texts::tr("updated")
+                                                          : texts::tr("added again");
+        remarks_.append(
+            texts::tr("line %1: %2: customer %3 has the mobile number %4")
+                .arg(QString::number(line.number), done, QString::number(known), shown(mobile)));
     }
     if (known != 0 && way_ == duplicates::skip) {
         ++skipped_;
@@ -188,8 +192,10 @@ void customer_importer::take(const customer_line& line) {
 }
 
 QString customer_importer::summary() const {
-    return u"%1 customer(s) added, %2 updated, %3 skipped\n"_s.arg(added_).arg(updated_).arg(
-        skipped_);
+    return texts::tr("%1 customer(s) added, %2 updated, %3 skipped\n")
+        .arg(added_)
+        .arg(updated_)
+        .arg(skipped_);
 }
 
 duplicates way_of(const QString& name) {
@@ -197,7 +203,7 @@ duplicates way_of(const QString& name) {
         return duplicates::add;
     }
     if (name != u"skip" && name != u"update") {
-        throw failure(u"--duplicates %1: expected skip, update or add"_s.arg(name));
+        throw failure(texts::tr("--duplicates %1: expected skip, update or add").arg(name));
     }
     return name == u"skip" ? duplicates::skip : duplicates::update;
 }
@@ -208,8 +214,8 @@ QString class_of(const QCommandLineParser& arguments) {
     if (arguments.isSet(u"class"_s) &&
         (name.isEmpty() || name.size() > longest || name.contains(u'\''))) {
         throw failure(
-            u"--class: a class has a name of 1 to %1 characters, without an apostrophe"_s.arg(
-                longest));
+            texts::tr("--class: a class has a name of 1 to %1 characters, without an apostrophe")
+                .arg(longest));
     }
     return name;
 }
@@ -229,10 +235,10 @@ QByteArray content_of(const QString& path) {
     constexpr qint64 largest = 0x4000000; // no list of 32,767 customers comes near
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        throw failure(u"%1: cannot be opened: %2"_s.arg(path, file.errorString()));
+        throw failure(texts::tr("%1: cannot be opened: %2").arg(path, file.errorString()));
     }
     if (file.size() > largest) {
-        throw failure(u"%1: is too large for a list of customers"_s.arg(path));
+        throw failure(texts::tr("%1: is too large for a list of customers").arg(path));
     }
     return file.read(largest);
 }
@@ -254,11 +260,13 @@ int run(const QCommandLineParser& arguments) {
             importing.take(line);
         }
         const QStringList remarks = sheet.remarks + importing.remarks();
-        QString told = sheet.is_guessed ? u"taken for GB18030 (see --charset)\n"_s : QString();
+        QString told =
+            sheet.is_guessed ? texts::tr("taken for GB18030 (see --charset)\n") : QString();
         for (const QString& remark : remarks) {
             told += remark + u'\n';
         }
-        told += (is_trial ? u"dry run, nothing is changed: "_s : QString()) + importing.summary();
+        told += is_trial ? texts::tr("dry run, nothing is changed: %1").arg(importing.summary())
+                         : importing.summary();
         database->write_ahead();
         conclude(told, [&importing_all] { importing_all.commit(); });
         return remarks.isEmpty() ? exit_status::clean : exit_status::findings;
@@ -271,8 +279,8 @@ int run(const QCommandLineParser& arguments) {
 
 command import_customers_command() {
     return {u"import-customers"_s,
-            u"put the customers of a spreadsheet into a database"_s,
-            help,
+            texts::tr("put the customers of a spreadsheet into a database"),
+            help(),
             2,
             {QCommandLineOption(u"dry-run"_s), QCommandLineOption(u"class"_s, {}, u"name"_s),
              QCommandLineOption(u"duplicates"_s, {}, u"way"_s, u"skip"_s),

@@ -4,6 +4,7 @@
 #include "tools/sheets/sheet.h"
 
 #include "tools/command.h"
+#include "tools/texts.h"
 
 #include <QRegularExpression>
 #include <QStringDecoder>
@@ -65,16 +66,17 @@ std::pair<QString, bool> text_of(const QByteArray& content, const QString& path,
     const bool is_known = text || marked || !charset.isEmpty();
     const qint64 line = is_known ? 0 : line_of_other_encoding(content);
     if (line != 0) {
-        throw failure(
-            u"%1: line %2 is not in UTF-8 as others are; save the file anew, all in one encoding"_s
-                .arg(path, QString::number(line)));
+        throw failure(texts::tr("%1: line %2 is not in UTF-8 as others are; save the file anew, "
+                                "all in one encoding")
+                          .arg(path, QString::number(line)));
     }
     if (!is_known) {
         text = decoded(QStringDecoder("GB18030", whole), content);
     }
     if (!text || text->contains(QChar::Null)) {
-        throw failure(u"%1: is no text in %2; save it as CSV"_s.arg(
-            path, charset.isEmpty() ? u"UTF-8, UTF-16 or GB18030"_s : charset));
+        throw failure(
+            texts::tr("%1: is no text in %2; save it as CSV")
+                .arg(path, charset.isEmpty() ? texts::tr("UTF-8, UTF-16 or GB18030") : charset));
     }
     return {*text, !is_known};
 }
@@ -168,7 +170,7 @@ sheet read_sheet(const QByteArray& content, const QString& path, const QString& 
     const auto [whole, is_guessed] = text_of(content, path, charset);
     const QString hinted = without_hint(whole);
     if (hinted.trimmed().isEmpty()) {
-        throw failure(u"%1: is empty"_s.arg(path));
+        throw failure(texts::tr("%1: is empty").arg(path));
     }
     const char separator = separator_of(hinted);
     const QByteArray bytes = without_formulas(hinted, separator).toUtf8();
@@ -187,8 +189,8 @@ sheet read_sheet(const QByteArray& content, const QString& path, const QString& 
     if (csv_parse(&parser, bytes.constData(), length, on_field, on_end, &found) != length ||
         csv_fini(&parser, on_field, on_end, &found) != 0) {
         throw failure(
-            u"%1: line %2: a quotation mark stands where none belongs, or one is missing"_s.arg(
-                path, QString::number(found.line)));
+            texts::tr("%1: line %2: a quotation mark stands where none belongs, or one is missing")
+                .arg(path, QString::number(found.line)));
     }
     return {found.lines, is_guessed};
 }
