@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "platform/database/connection_pool.h"
 #include "tests/support/test_database.h"
 
 #include <QProcess>
@@ -13,17 +14,25 @@
 class smsdb_shell {
 protected:
     // Runs a line to its end; told_ is then all that it wrote. FILE and DIR stand for the database
-    // and its folder, $FIXTURES for the old databases. No file can grow beyond 500 KiB.
+    // and its folder. No file can grow beyond 500 KiB unless the line says so.
     int run(QString line) {
         line.replace(QStringLiteral("FILE"), database_->path())
             .replace(QStringLiteral("DIR"), database_->folder());
-        const QString setting = QStringLiteral("ulimit -f 1000; exec 2>&1; FIXTURES=" FIXTURES
+        const QString setting = QStringLiteral("ulimit -S -f 1000; exec 2>&1; FIXTURES=" FIXTURES
                                                "; PATH=" SMSDB_FOLDER ":$PATH; ");
         QProcess shell;
         shell.start(QStringLiteral("sh"), {QStringLiteral("-c"), setting + line});
         shell.waitForFinished();
         told_ = shell.readAll();
         return shell.exitCode();
+    }
+
+    /// Runs statements with ";" between them on the database, and lets go of it.
+    static void execute(const QString& statements) {
+        for (const QString& statement : statements.split(u';')) {
+            test_database::execute(statement);
+        }
+        connection_pool::clear();
     }
 
     std::optional<test_database> database_;
