@@ -66,8 +66,8 @@ public:
     gateway_side() {
         process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
         process_.start(QCoreApplication::applicationDirPath() + u"/smsgateway"_s,
-                       {u"--listen"_s, u"127.0.0.1:0"_s, u"--state"_s, folder_.path(),
-                        u"--report-delay"_s, u"1000"_s});
+                       {u"--no-page"_s, u"--listen"_s, u"127.0.0.1:0"_s, u"--state"_s,
+                        folder_.path(), u"--report-delay"_s, u"1000"_s});
         if (!process_.waitForReadyRead()) {
             throw std::runtime_error("the gateway does not start");
         }

@@ -3,12 +3,14 @@
 
 #include "gateway/backend.h"
 
+#include "gateway/texts.h"
+
 using namespace Qt::StringLiterals;
 
 namespace gateway {
 
 QString backend::command(const QString& line) {
-    return u"this engine knows no command: %1"_s.arg(line);
+    return texts::tr("this engine knows no command: %1").arg(line);
 }
 
 } // namespace gateway

@@ -5,6 +5,7 @@
 
 #include "gateway/relay_rules.h"
 #include "gateway/system_calls.h"
+#include "gateway/texts.h"
 
 #include <utility>
 
@@ -44,7 +45,7 @@ client_link::client_link(QTcpSocket* socket, clock& time, QObject* parent)
     connect(&joiner_, &frame_joiner::frame_read, this, &client_link::take_frame);
     connect(&joiner_, &frame_joiner::frame_refused, this, &client_link::refuse);
     connect(&joiner_, &frame_joiner::overflowed, this,
-            [this] { drop(u"too many bytes without a pause"_s); });
+            [this] { drop(texts::tr("too many bytes without a pause")); });
 }
 
 void client_link::read_arrival() {
@@ -61,7 +62,9 @@ void client_link::read_arrival() {
 
 void client_link::take_frame(const QByteArray& frame) {
     has_spoken_ = true;
-    confirm_followed();
+    if (unread_ && unread_->answer_followed) { // it reads in order
+        confirm_received();
+    }
     outbox_.heard();
     emit frame_read(frame, read_at_);
 }
@@ -112,7 +115,7 @@ bool client_link::is_answer_under_way() const {
 }
 
 bool client_link::can_bring() const {
-    return !ending_ && !waiting_ && unread_.size() < most_unread;
+    return !ending_ && !waiting_ && !unread_;
 }
 
 void client_link::bring(qint64 id, const received_message& message) {
@@ -126,8 +129,8 @@ void client_link::write_answer(verdict result) {
     }
     socket_->write(encode(result));
     socket_->flush();
-    for (unread& message : unread_) {
-        message.answer_followed = true;
+    if (unread_) {
+        unread_->answer_followed = true;
     }
     if (answer_) {
         answer_->written = true;
@@ -143,18 +146,13 @@ void client_link::write_received() {
     }
     socket_->write(frame);
     socket_->flush();
-    unread_.push_back({.id = id, .written_at = clock_.steady()});
+    unread_ = unread{.id = id, .written_at = clock_.steady()};
     watch_unread();
     emit written(id);
 }
 
-/// The client reads in order: it has read what came before the answer to its last message.
-void client_link::confirm_followed() {
-    while (!unread_.empty() && unread_.front().answer_followed) {
-        const qint64 id = unread_.front().id;
-        unread_.pop_front();
-        emit confirmed(id);
-    }
+void client_link::confirm_received() {
+    emit confirmed(std::exchange(unread_, std::nullopt)->id);
 }
 
 void client_link::confirm_acknowledged() {
@@ -165,17 +163,15 @@ void client_link::confirm_acknowledged() {
         if (answer_ && answer_->written && now - answer_written_at_ >= after) {
             emit answer_confirmed(std::exchange(answer_, std::nullopt)->id);
         }
-        while (!unread_.empty() && now - unread_.front().written_at >= after) {
-            const qint64 id = unread_.front().id;
-            unread_.pop_front();
-            emit confirmed(id);
+        if (unread_ && now - unread_->written_at >= after) {
+            confirm_received();
         }
     }
     watch_unread();
 }
 
 void client_link::watch_unread() {
-    if (((answer_ && answer_->written) || !unread_.empty()) && !acknowledged_->is_set()) {
+    if (((answer_ && answer_->written) || unread_) && !acknowledged_->is_set()) {
         acknowledged_->set(surely_read_after);
     }
 }

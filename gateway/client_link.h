@@ -11,7 +11,6 @@
 #include <QObject>
 #include <QTcpSocket>
 
-#include <deque>
 #include <optional>
 
 namespace gateway {
@@ -22,9 +21,6 @@ class client_link : public QObject {
     Q_OBJECT
 
 public:
-    /// Received messages that may be on their way to a client that has not surely read them.
-    static constexpr std::size_t most_unread = 5;
-
     /// Serves the connected socket and becomes its parent.
     client_link(QTcpSocket* socket, clock& time, QObject* parent = nullptr);
 
@@ -39,7 +35,8 @@ public:
     /// The answer is still on its way to the client's system.
     [[nodiscard]] bool is_answer_under_way() const;
 
-    /// True when another received message may be given to bring().
+    /// True when a received message may be given to bring(): one goes at a time, and the next when
+    /// the client has surely read it.
     [[nodiscard]] bool can_bring() const;
     void bring(qint64 id, const received_message& message);
 
@@ -79,7 +76,7 @@ private:
     void refuse();
     void write_answer(verdict result);
     void write_received();
-    void confirm_followed();
+    void confirm_received();
     void confirm_acknowledged();
     void watch_unread();
     void finish();
@@ -91,7 +88,7 @@ private:
     outbox outbox_;
     std::optional<earlier_answer> answer_;
     qint64 answer_written_at_ = 0;
-    std::deque<unread> unread_;
+    std::optional<unread> unread_; ///< the received message that the client has not surely read
     std::optional<std::pair<qint64, QByteArray>> waiting_;
     std::unique_ptr<alarm> acknowledged_;
     qint64 read_at_ = 0;

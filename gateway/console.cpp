@@ -3,6 +3,7 @@
 
 #include "gateway/console.h"
 
+#include "gateway/texts.h"
 #include "platform/terminal.h"
 
 #include <QDeadlineTimer>
@@ -36,7 +37,7 @@ void complain(const QString& what) {
     if (++lines <= most_lines) {
         write_line(what);
     } else if (lines == most_lines + 1) {
-        write_line(u"more of this is left out for a minute"_s);
+        write_line(texts::tr("more of this is left out for a minute"));
     }
 }
 

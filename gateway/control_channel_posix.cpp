@@ -3,6 +3,8 @@
 
 #include "gateway/control_channel.h"
 
+#include "gateway/texts.h"
+
 #include <QFile>
 
 #include <array>
@@ -28,7 +30,7 @@ int control_channel::open_fifo(const QString& path, QString& reason) {
     struct stat status = {};
     if (::fstat(descriptor, &status) != 0 || !S_ISFIFO(status.st_mode)) {
         ::close(descriptor);
-        reason = u"not a FIFO"_s;
+        reason = texts::tr("it is no FIFO");
         return -1;
     }
     return descriptor;
@@ -67,7 +69,7 @@ void control_channel::take_lines() {
     }
     if (unread_.size() > max_line_bytes) {
         if (!std::exchange(skipping_, true)) {
-            emit line_refused(u"line too long"_s);
+            emit line_refused(texts::tr("the line is too long"));
         }
         unread_.clear();
     }
@@ -82,7 +84,7 @@ void control_channel::take_line(QByteArray line) {
         line.chop(1);
     }
     if (!line.isValidUtf8()) {
-        emit line_refused(u"line is not UTF-8"_s);
+        emit line_refused(texts::tr("the line is not UTF-8"));
     } else if (!line.isEmpty()) {
         emit line_read(QString::fromUtf8(line));
     }

@@ -22,12 +22,14 @@ dispatch_rows::dispatch_rows(store& file)
           file.database(),
           u"SELECT id, mobile, number, text, state, since, attempts FROM message WHERE id = ?1"_s),
       begin_(file.database(), u"UPDATE message SET state = 'handing', since = ?2, next_at = NULL, "
-                              "attempts = attempts + 1 WHERE id = ?1"_s),
+                              "attempts = attempts + 1 WHERE id = ?1 AND state = 'queued'"_s),
       change_(file.database(),
               u"UPDATE message SET state = ?2, since = ?3, next_at = ?4, network_ref = "
-              "coalesce(?5, network_ref), reason = coalesce(?6, reason), done_at = ?7 WHERE id = "
-              "?1"_s),
-      put_off_(file.database(), u"UPDATE message SET next_at = ?2 WHERE id = ?1"_s),
+              "coalesce(?5, network_ref), reason = CASE WHEN state = ?2 THEN coalesce(?6, "
+              "reason) ELSE ?6 END, done_at = CASE WHEN ?7 IS "
+              "NOT NULL THEN coalesce(done_at, ?7) END WHERE id = ?1"_s),
+      put_off_(file.database(),
+               u"UPDATE message SET next_at = ?2 WHERE id = ?1 AND state = 'unknown'"_s),
       note_(file.database(), u"INSERT OR IGNORE INTO event (message, at, fate, ref, reason) VALUES "
                              "(?1, ?2, ?3, ?4, ?5)"_s) {}
 
@@ -71,8 +73,14 @@ std::optional<message_row> dispatch_rows::find(message_id id) {
     return found.isEmpty() ? std::nullopt : std::optional(found.first());
 }
 
-void dispatch_rows::begin(message_id id, qint64 now) {
-    begin_.run({id, now});
+bool dispatch_rows::has_changed(bound_statement& statement, const QVariantList& values) {
+    const qint64 before = store_.database().changed_rows();
+    statement.run(values);
+    return store_.database().changed_rows() != before;
+}
+
+bool dispatch_rows::begin(message_id id, qint64 now) {
+    return has_changed(begin_, {id, now});
 }
 
 void dispatch_rows::change(const message_row& before, const message_change& change, qint64 now) {
@@ -83,15 +91,13 @@ void dispatch_rows::change(const message_row& before, const message_change& chan
                  given(change.reason), is_settled(change.state) ? QVariant(now) : QVariant()});
 }
 
-void dispatch_rows::put_off(message_id id, std::optional<qint64> next_at) {
-    put_off_.run({id, next_at ? QVariant(*next_at) : QVariant()});
+bool dispatch_rows::put_off(message_id id, qint64 next_at) {
+    return has_changed(put_off_, {id, next_at});
 }
 
 bool dispatch_rows::note(message_id id, const QString& fate, const QString& ref,
                          const QString& reason, qint64 now) {
-    const qint64 before = store_.database().changed_rows();
-    note_.run({id, now, fate, ref, reason});
-    return store_.database().changed_rows() != before;
+    return has_changed(note_, {id, now, fate, ref, reason});
 }
 
 void dispatch_rows::doubt_handing(qint64 now) {

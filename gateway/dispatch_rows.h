@@ -24,8 +24,8 @@ struct message_row {
     int attempts = 0;
 };
 
-/// A new state of a message and what goes with it. An empty reference or reason leaves what was
-/// there.
+/// A new state of a message and what goes with it. An empty reference leaves what was there; so
+/// does an empty reason while the state stays.
 struct message_change {
     message_state state = message_state::queued;
     std::optional<qint64> next_at;
@@ -44,11 +44,11 @@ public:
     [[nodiscard]] std::optional<qint64> next_moment();
     [[nodiscard]] std::optional<message_row> find(message_id id);
 
-    /// An attempt begins.
-    void begin(message_id id, qint64 now);
+    /// An attempt begins; false when the message no longer waits for one.
+    [[nodiscard]] bool begin(message_id id, qint64 now);
     void change(const message_row& before, const message_change& change, qint64 now);
-    /// When it is asked for again; nothing: never, a person decides.
-    void put_off(message_id id, std::optional<qint64> next_at);
+    /// When it is asked for again; false when it is not unknown any more.
+    [[nodiscard]] bool put_off(message_id id, qint64 next_at);
     /// Notes what was told; false when it was told before.
     bool note(message_id id, const QString& fate, const QString& ref, const QString& reason,
               qint64 now);
@@ -56,6 +56,7 @@ public:
     void doubt_handing(qint64 now);
 
 private:
+    [[nodiscard]] bool has_changed(bound_statement& statement, const QVariantList& values);
     [[nodiscard]] static QList<message_row> read(bound_statement& rows, const QVariantList& values);
 
     store& store_;

@@ -4,7 +4,7 @@
 #include "gateway/dispatcher.h"
 
 #include "gateway/console.h"
-#include "gateway/message_text.h"
+#include "gateway/texts.h"
 #include "gateway/try_store.h"
 
 #include <algorithm>
@@ -75,7 +75,7 @@ void dispatcher::end(std::function<void()> ended) {
 }
 
 void dispatcher::health_changed() {
-    complain(say("network: %1").arg(network_.health().text));
+    complain(texts::tr("network: %1").arg(network_.health().text));
     wake();
 }
 
@@ -101,13 +101,13 @@ void dispatcher::hand_over_due() {
     const qint64 now = clock_.now();
     const bool begun = try_store([&] {
         due = rows_.queued_until(now, room());
+        due.removeIf([this](const auto& row) { return under_way_.contains(row.id); });
         if (due.isEmpty()) {
             return;
         }
         transaction all(store_.database());
-        for (const message_row& row : due) {
-            rows_.begin(row.id, now);
-        }
+        // A person may have dropped one meanwhile.
+        due.removeIf([this, now](const auto& row) { return !rows_.begin(row.id, now); });
         all.commit();
     });
     if (!begun) {
@@ -132,9 +132,9 @@ void dispatcher::ask_for_unknown() {
             return;
         }
         transaction all(store_.database());
-        for (const message_row& row : std::as_const(doubtful)) {
-            rows_.put_off(row.id, now + asked_again_at_last.count());
-        }
+        doubtful.removeIf([this, now](const auto& row) {
+            return !rows_.put_off(row.id, now + asked_again_at_last.count());
+        });
         all.commit();
     });
     for (const message_row& row : noted ? doubtful : QList<message_row>()) {
@@ -213,7 +213,9 @@ message_change dispatcher::change_for(const message_row& row, const handover& ou
                           .next_at = {},
                           .ref = outcome.ref,
                           .reason = outcome.reason};
-    if (change.state == message_state::queued) {
+    if (change.state == message_state::failed && row.state != message_state::failed) {
+        change.reason = failure_reason(outcome.reason, fate::refused, outcome.cause);
+    } else if (change.state == message_state::queued) {
         change.next_at = now + pause_after(row.attempts).count();
     } else if (change.state == message_state::unknown) {
         const qint64 unknown_for = row.state == message_state::unknown ? now - row.since : 0;
@@ -230,10 +232,13 @@ bool dispatcher::take(const report& told) {
         const auto row = rows_.find(told.id);
         if (row && rows_.note(told.id, name_of(told.what), told.ref, told.reason, now)) {
             const message_state state = state_after(row->state, told.what);
+            const bool fails = state == message_state::failed && row->state != state;
             if (state != row->state) {
-                rows_.change(*row, {state, {}, told.ref, told.reason}, now);
+                const QString reason =
+                    fails ? failure_reason(told.reason, told.what, told.cause) : told.reason;
+                rows_.change(*row, {state, {}, told.ref, reason}, now);
             }
-            if (state == message_state::failed && row->state != state) {
+            if (fails) {
                 tell_failure(*row, told.what, told.cause, now);
             }
         }

@@ -5,7 +5,7 @@
 
 #include "gateway/gammu_health.h"
 #include "gateway/gammu_parts.h"
-#include "gateway/message_text.h"
+#include "gateway/texts.h"
 #include "platform/data_error.h"
 
 #include <QRegularExpression>
@@ -14,7 +14,6 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace gateway {
 
@@ -23,9 +22,9 @@ namespace {
 /// Looks are so much rarer while nothing is owed and no report awaited.
 constexpr int idle_factor = 5;
 /// How long a database that is out of order is waited for before a message is given back.
-constexpr std::chrono::milliseconds database_pause = 10s;
+constexpr std::chrono::milliseconds database_pause{10'000};
 /// How long the engine may stand still over what it was handed.
-constexpr std::chrono::milliseconds silence = 5min;
+constexpr std::chrono::milliseconds silence = std::chrono::minutes(5);
 /// Reports that are told in one look: the sink stores each.
 constexpr int reports_a_look = 100;
 
@@ -34,12 +33,16 @@ constexpr int reports_a_look = 100;
 std::optional<handover> refusal_of(const outgoing_message& message) {
     static const QRegularExpression number(u"\\A\\+?[0-9]+\\z"_s);
     if (!number.match(message.number).hasMatch()) {
-        return handover{
-            handover_result::refused, {}, say("this is no number"), failure_cause::bad_number};
+        return handover{handover_result::refused,
+                        {},
+                        texts::tr("this is no number"),
+                        failure_cause::bad_number};
     }
-    if (split_text(message.text, message.id).parts.isEmpty()) {
-        return handover{
-            handover_result::refused, {}, say("this text cannot be sent"), failure_cause::content};
+    if (gammu_parts_of(message.text, message.id).parts.isEmpty()) {
+        return handover{handover_result::refused,
+                        {},
+                        texts::tr("this text cannot be sent"),
+                        failure_cause::content};
     }
     return std::nullopt;
 }
@@ -53,7 +56,7 @@ gammu_backend::gammu_backend(gammu_settings settings) : settings_(std::move(sett
 
 void gammu_backend::start(network_sink& sink) {
     sink_ = &sink;
-    health_.text = say("gammu-smsd's database is being opened");
+    health_.text = texts::tr("gammu-smsd's database is being opened");
     look_soon();
 }
 
@@ -85,7 +88,9 @@ void gammu_backend::look() {
     settle_silent();
     const bool is_busy = !owed_.isEmpty() || awaiting_;
     if (!timer_.isActive()) {
-        timer_.start(more_ ? 0ms : is_busy ? settings_.poll : settings_.poll * idle_factor);
+        timer_.start(more_     ? std::chrono::milliseconds(0)
+                     : is_busy ? settings_.poll
+                               : settings_.poll * idle_factor);
     }
 }
 
@@ -126,7 +131,7 @@ void gammu_backend::queue_new() {
     QHash<message_id, qint64> keys;
     rows_->together([&] {
         for (const outgoing_message& message : std::as_const(fresh)) {
-            keys[message.id] = rows_->queue(message, split_text(message.text, message.id));
+            keys[message.id] = rows_->queue(message, gammu_parts_of(message.text, message.id));
         }
     });
     for (auto one = keys.cbegin(); one != keys.cend(); ++one) {
@@ -145,8 +150,8 @@ void gammu_backend::find_asked() {
         one.key = rows_->find(id);
         if (one.key == 0) {
             // What was queued is found: in the queue, among what was sent, or marked as lost.
-            settle(id,
-                   {.result = handover_result::not_now, .reason = say("gammu-smsd never got it")});
+            settle(id, {.result = handover_result::not_now,
+                        .reason = texts::tr("gammu-smsd never got it")});
         } else {
             from_ = std::min(from_, one.key);
         }
@@ -226,7 +231,7 @@ void gammu_backend::settle_silent() {
                         .reason = health_.text});
         } else if (one.waiting.hasExpired(silence.count()) &&
                    (!still_.isValid() || still_.hasExpired(silence.count()))) {
-            settle(id, {.reason = say("gammu-smsd stands still")});
+            settle(id, {.reason = texts::tr("gammu-smsd stands still")});
         }
     }
 }

@@ -3,7 +3,7 @@
 
 #include "gateway/gammu_database.h"
 
-#include "gateway/message_text.h"
+#include "gateway/texts.h"
 #include "platform/data_error.h"
 #include "platform/database/transaction.h"
 
@@ -19,7 +19,7 @@ constexpr int lock_wait_ms = 250;
 gammu_database::gammu_database(const gammu_settings& wanted) {
     if (wanted.driver != sql_driver::sqlite) {
         throw DataError(DataError::Kind::cannot_open,
-                        say("this version of the gateway knows gammu-smsd's SQLite alone"));
+                        texts::tr("this version of the gateway knows gammu-smsd's SQLite alone"));
     }
     // The write-ahead log that this opens it with matters: gammu-smsd does not wait for a lock, and
     // with it our reading never stands in its way.

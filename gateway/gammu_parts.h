@@ -8,8 +8,8 @@
 
 #include <optional>
 
-// A text as the short messages that carry it (GSM 03.38 and 03.40), with gammu-smsd's spelling of
-// their headers: hexadecimal, its length first.
+// The short messages of a text with gammu-smsd's spelling of their headers: hexadecimal, its length
+// first.
 
 namespace gateway {
 
@@ -24,14 +24,9 @@ struct gammu_text {
     QList<gammu_part> parts; ///< none for a text that cannot be sent
 };
 
-/// Every character is in the 7-bit alphabet or behind its escape.
-[[nodiscard]] bool fits_gsm7(const QString& text);
-
-/// A text that fits one message stays whole (160 units of 7 bits, or 70 of 16); a longer one goes
-/// in parts of 153 or 67, and no character is cut in two. Of the reference, which tells the parts
-/// of one message from those of the next to the same phone, the low 8 bits are used. A NUL, which
-/// the engine takes for the end, is left out.
-[[nodiscard]] gammu_text split_text(QString text, qint64 reference);
+/// Of the reference, which tells the parts of one message from those of the next to the same phone,
+/// the low 8 bits are used. A NUL, which the engine takes for the end, is left out.
+[[nodiscard]] gammu_text gammu_parts_of(QString text, qint64 reference);
 
 /// Which part of what a received message is.
 struct part_place {

@@ -3,7 +3,7 @@
 
 #include "gateway/gammu_rows.h"
 
-#include "gateway/message_text.h"
+#include "gateway/texts.h"
 #include "platform/data_error.h"
 
 #include <QHash>
@@ -46,7 +46,7 @@ void gammu_rows::expect_tables() {
     const auto versions = database_.rows(u"SELECT Version FROM gammu"_s);
     if (versions.size() != 1 || number(versions.first().first()) != known_version) {
         throw DataError(DataError::Kind::cannot_open,
-                        say("its tables are not of version %1").arg(known_version));
+                        texts::tr("its tables are not of version %1").arg(known_version));
     }
     (void)survey(0);
     (void)received_after(0);

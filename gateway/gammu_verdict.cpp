@@ -3,7 +3,7 @@
 
 #include "gateway/gammu_verdict.h"
 
-#include "gateway/message_text.h"
+#include "gateway/texts.h"
 
 #include <algorithm>
 
@@ -97,7 +97,7 @@ gammu_verdict judge(const gammu_trace& trace) {
     }
     if (!queued || queued->held) {
         return {.state = queued ? gammu_state::held : gammu_state::absent,
-                .reason = say("gammu-smsd began to send it and was interrupted, or lost it")};
+                .reason = texts::tr("gammu-smsd began to send it and was interrupted, or lost it")};
     }
     if (queued->left) {
         return {.state = gammu_state::doubtful};
@@ -106,7 +106,7 @@ gammu_verdict judge(const gammu_trace& trace) {
         return {.state = gammu_state::sending};
     }
     return queued->tried ? gammu_verdict{.state = gammu_state::retrying,
-                                         .reason = say("gammu-smsd will try again")}
+                                         .reason = texts::tr("gammu-smsd will try again")}
                          : gammu_verdict{.state = gammu_state::untouched};
 }
 

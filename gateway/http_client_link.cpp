@@ -4,7 +4,7 @@
 #include "gateway/http_client_link.h"
 
 #include "gateway/http_message.h"
-#include "gateway/message_text.h"
+#include "gateway/texts.h"
 
 #include <QNetworkProxy>
 
@@ -39,7 +39,7 @@ http_client_link::http_client_link(QUrl server, std::chrono::milliseconds timeou
     };
     connect(&socket_, &QTcpSocket::errorOccurred, this, fall, Qt::QueuedConnection);
     connect(&patience_, &QTimer::timeout, this,
-            [this] { fail(busy_ ? say("no answer in time") : QString()); });
+            [this] { fail(busy_ ? texts::tr("no answer in time") : QString()); });
 }
 
 http_client_link::~http_client_link() {
@@ -76,7 +76,7 @@ void http_client_link::read(bool ended) {
     buffer_ += socket_.readAll();
     const http_answer_reading reading = read_answer(buffer_, ended);
     if (!busy_ || reading.progress == http_progress::broken || buffer_.size() > max_answer) {
-        fail(ended ? socket_.errorString() : say("the answer is no HTTP"));
+        fail(ended ? socket_.errorString() : texts::tr("the answer is no HTTP"));
     } else if (reading.progress == http_progress::whole) {
         const http_answer answer{reading.status, reading.body, {}, was_written_};
         if (!reading.stays_open) {

@@ -137,12 +137,14 @@ http_request_reading read_whole_request(const http_head& head) {
     }
     const qsizetype mark = words[1].indexOf('?');
     const auto query = read_query(mark < 0 ? QByteArray() : words[1].sliced(mark + 1));
-    if (!query) {
+    const auto hosts = std::count_if(head.fields.begin(), head.fields.end(),
+                                     [](const auto& field) { return field.first == "host"; });
+    if (!query || hosts > 1) {
         return refuse(400);
     }
     return {http_progress::whole,
-            {before(words[1], mark), *query, words[0] == "HEAD",
-             keeps_open(head, words[2] == "HTTP/1.1")},
+            {before(words[1], mark), *query, only_value(head.fields, "host").value_or(QByteArray()),
+             words[0] == "HEAD", keeps_open(head, words[2] == "HTTP/1.1")},
             0,
             head.size};
 }
@@ -222,6 +224,8 @@ QByteArray response_bytes(const http_response& response, bool head_only, bool st
                        reason_phrase(response.status) + "\r\nContent-Type: " + response.type +
                        "\r\nContent-Length: " + QByteArray::number(response.body.size()) +
                        "\r\nCache-Control: no-store\r\nX-Content-Type-Options: nosniff"
+                       "\r\nContent-Security-Policy: default-src 'none'; "
+                       "style-src 'unsafe-inline'; frame-ancestors 'none'"
                        "\r\nConnection: " +
                        (stays_open ? "keep-alive" : "close") + "\r\n\r\n";
     return head_only ? bytes : bytes + response.body;

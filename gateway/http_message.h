@@ -39,6 +39,7 @@ struct http_head {
 struct http_request {
     QByteArray path;         ///< as it was sent, without the query
     http_fields query;       ///< decoded bytes, of any character set
+    QByteArray host;         ///< by which name the client calls this server; may be missing
     bool head_only = false;  ///< the answer goes without its body
     bool stays_open = false; ///< the client may send another
 };

@@ -19,11 +19,13 @@ void http_server::handle(const QByteArray& prefix, const http_handler& handler) 
 }
 
 QString http_server::listen(const endpoint& place) {
+    wanted_ = place;
     return listener_.listen(place.address, place.port) ? QString() : listener_.errorString();
 }
 
 endpoint http_server::place() const {
-    return {listener_.serverAddress(), listener_.serverPort()};
+    return listener_.isListening() ? endpoint{listener_.serverAddress(), listener_.serverPort()}
+                                   : wanted_;
 }
 
 void http_server::accept() {

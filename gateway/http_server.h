@@ -37,10 +37,10 @@ public:
     /// No handler takes its place. A handler outlives the server or is taken away before it ends.
     void handle(const QByteArray& prefix, const http_handler& handler);
 
-    /// Listens from now on. Gives the reason if it cannot, else nothing.
+    /// Listens from now on. Gives the reason if it cannot, else nothing; may then be tried again.
     [[nodiscard]] QString listen(const endpoint& place);
 
-    /// Where it listens.
+    /// Where it listens, or is to.
     [[nodiscard]] endpoint place() const;
 
 private:
@@ -49,6 +49,7 @@ private:
     [[nodiscard]] http_response answer(const http_request& request) const;
 
     QTcpServer listener_;
+    endpoint wanted_;
     QList<std::pair<QByteArray, http_handler>> handlers_;
     QList<http_link*> links_; ///< the one heard of last at the end
 };

@@ -5,7 +5,7 @@
 
 #include "gateway/console.h"
 #include "gateway/kannel_callbacks.h"
-#include "gateway/message_text.h"
+#include "gateway/texts.h"
 
 #include <algorithm>
 #include <tuple>
@@ -46,7 +46,7 @@ QString probe_fault(const http_answer& answer) {
 }
 
 kannel_status status_of(const http_answer& answer) {
-    return answer.status == 0 ? kannel_status{say("no status.xml: %1").arg(answer.fault)}
+    return answer.status == 0 ? kannel_status{texts::tr("no status.xml: %1").arg(answer.fault)}
                               : read_kannel_status(answer.status, answer.body);
 }
 
@@ -59,7 +59,7 @@ kannel_backend::kannel_backend(const kannel_settings& wanted, const QString& sec
       calls_(calls),
       sendsms_(wanted.sendsms, wanted.timeout),
       status_(wanted.status, wanted.timeout),
-      fault_(say("not tried yet")),
+      fault_(texts::tr("not tried yet")),
       pause_(first_pause) {
     probe_.setSingleShot(true);
     connect(&probe_, &QTimer::timeout, this, &kannel_backend::probe);
@@ -93,14 +93,14 @@ void kannel_backend::ask(message_id id) {
     const auto answer = [this, id] {
         sink_->settle(id, {handover_result::unknown,
                            {},
-                           say("Kannel cannot be asked; only a report can tell"),
+                           texts::tr("Kannel cannot be asked; only a report can tell"),
                            {}});
     };
     QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);
 }
 
 network_health kannel_backend::health() const {
-    const QString state = fault_.isEmpty() ? say("Kannel takes messages") : fault_;
+    const QString state = fault_.isEmpty() ? texts::tr("Kannel takes messages") : fault_;
     return {fault_.isEmpty(), links_ ? state + u"; "_s + tell(*links_) : state};
 }
 
@@ -167,7 +167,7 @@ void kannel_backend::mark_up() {
 }
 
 void kannel_backend::mark_down(const QString& fault, std::chrono::milliseconds probe_after) {
-    const QString told = say("Kannel takes no messages: %1").arg(fault);
+    const QString told = texts::tr("Kannel takes no messages: %1").arg(fault);
     if (!probe_.isActive()) {
         probe_.start(probe_after);
     }
@@ -193,7 +193,7 @@ http_response kannel_backend::take_call(const http_request& request) {
     case kannel_call::message:
         return std::visit(keep, read_kannel_message(request.query));
     }
-    return refuse_call(403, say("no such address, or not its secret"));
+    return refuse_call(403, texts::tr("no such address, or not its secret"));
 }
 
 http_response kannel_backend::refuse_call(int status, const QString& fault) {
@@ -201,7 +201,7 @@ http_response kannel_backend::refuse_call(int status, const QString& fault) {
                          since_refused_call_.hasExpired(between_complaints.count());
     if (is_news) {
         since_refused_call_.start();
-        complain(say("a call for Kannel was refused: %1").arg(fault));
+        complain(texts::tr("a call for Kannel was refused: %1").arg(fault));
     }
     return {status, fault.toUtf8() + '\n'};
 }

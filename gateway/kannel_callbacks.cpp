@@ -4,7 +4,7 @@
 #include "gateway/kannel_callbacks.h"
 
 #include "gateway/kannel_request.h"
-#include "gateway/message_text.h"
+#include "gateway/texts.h"
 
 #include <QRegularExpression>
 #include <QStringDecoder>
@@ -30,7 +30,7 @@ public:
     [[nodiscard]] QByteArray bytes(QByteArrayView name) {
         const auto value = only_value(query_, name);
         if (!value) {
-            complain(say("%1 is missing or stands there twice").arg(QLatin1StringView(name)));
+            complain(texts::tr("%1 is missing or stands there twice").arg(QLatin1StringView(name)));
         }
         return value.value_or(QByteArray());
     }
@@ -39,8 +39,9 @@ public:
         QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
         QString value = decoder.decode(bytes(name));
         if (decoder.hasError() || value.size() > most || value.contains(u'\0')) {
-            complain(
-                say("%1 is no text of up to %2 characters").arg(QLatin1StringView(name)).arg(most));
+            complain(texts::tr("%1 is no text of up to %2 characters")
+                         .arg(QLatin1StringView(name))
+                         .arg(most));
         }
         return value;
     }
@@ -50,7 +51,7 @@ public:
         const QByteArray digits = bytes(name);
         const qint64 value = digits.toLongLong(&ok);
         if (!ok || value <= 0 || digits.startsWith('+')) {
-            complain(say("%1 is no positive number").arg(QLatin1StringView(name)));
+            complain(texts::tr("%1 is no positive number").arg(QLatin1StringView(name)));
         }
         return value;
     }
@@ -98,11 +99,11 @@ QString reason_of(const QString& words) {
 QString decode_message(const QByteArray& content, const QByteArray& coding,
                        const QByteArray& charset, call_reader& call) {
     if (coding == "1") {
-        return say("(a message that is no text: %1)").arg(QLatin1StringView(content.toHex()));
+        return texts::tr("(a message that is no text: %1)").arg(QLatin1StringView(content.toHex()));
     }
     const bool wide = charset.compare("UTF-16BE", Qt::CaseInsensitive) == 0;
     if (!wide && !charset.isEmpty() && charset.compare("UTF-8", Qt::CaseInsensitive) != 0) {
-        call.complain(say("the character set is neither UTF-8 nor UTF-16BE"));
+        call.complain(texts::tr("the character set is neither UTF-8 nor UTF-16BE"));
         return {};
     }
     // Half a pair of surrogates shows as a sign of its own; a message is not refused for it.
@@ -110,7 +111,7 @@ QString decode_message(const QByteArray& content, const QByteArray& coding,
                            QStringDecoder::Flag::Stateless);
     QString text = decoder.decode(content);
     if (wide ? content.size() % 2 != 0 : decoder.hasError()) {
-        call.complain(say("the text is not in its character set"));
+        call.complain(texts::tr("the text is not in its character set"));
     }
     return text;
 }
@@ -131,7 +132,7 @@ std::variant<report, callback_fault> read_kannel_report(const http_fields& query
     const message_id id = call.number("id");
     const auto what = fate_of(call.number("type"));
     if (!what) {
-        call.complain(say("type is none of 1, 2, 4, 8, 16"));
+        call.complain(texts::tr("type is none of 1, 2, 4, 8, 16"));
     }
     if (!call.fault().isEmpty()) {
         return callback_fault{call.fault()};
@@ -150,10 +151,10 @@ std::variant<incoming_message, callback_fault> read_kannel_message(const http_fi
     message.text =
         decode_message(call.bytes("text"), call.bytes("coding"), call.bytes("charset"), call);
     if (message.key.isEmpty() || message.sender.isEmpty()) {
-        call.complain(say("id or from is empty"));
+        call.complain(texts::tr("id or from is empty"));
     }
     if (!message.time.isValid() || message.time.date().year() > 9999) {
-        call.complain(say("time is no moment"));
+        call.complain(texts::tr("time is no moment"));
     }
     if (!call.fault().isEmpty()) {
         return callback_fault{call.fault()};

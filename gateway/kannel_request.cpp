@@ -3,7 +3,8 @@
 
 #include "gateway/kannel_request.h"
 
-#include "gateway/message_text.h"
+#include "gateway/text_parts.h"
+#include "gateway/texts.h"
 #include "platform/gsm_alphabet.h"
 
 #include <QUrlQuery>
@@ -75,7 +76,7 @@ QByteArray kannel_submission(const kannel_settings& wanted, const outgoing_messa
     if (!wanted.smsc.isEmpty()) {
         fields += field("X-Kannel-SMSC", wanted.smsc);
     }
-    return submission(wanted, fields, message.text.toUtf8());
+    return submission(wanted, fields, with_whole_characters(message.text).toUtf8());
 }
 
 QByteArray kannel_probe(const kannel_settings& wanted) {
@@ -120,12 +121,12 @@ QString read_probe_answer(int status, const QByteArray& body) {
         return {};
     }
     if (status == 403) {
-        return say("Kannel does not know this user name and password");
+        return texts::tr("Kannel does not know this user name and password");
     }
     if (status == 503) {
-        return say("Kannel is not ready: %1").arg(words_of(body));
+        return texts::tr("Kannel is not ready: %1").arg(words_of(body));
     }
-    return say("this is no sendsms of Kannel (HTTP %1: %2)").arg(status).arg(words_of(body));
+    return texts::tr("this is no sendsms of Kannel (HTTP %1: %2)").arg(status).arg(words_of(body));
 }
 
 failure_cause kannel_failure_cause(const QString& words) {

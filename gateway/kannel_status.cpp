@@ -3,7 +3,7 @@
 
 #include "gateway/kannel_status.h"
 
-#include "gateway/message_text.h"
+#include "gateway/texts.h"
 
 #include <QStringList>
 #include <QXmlStreamReader>
@@ -34,7 +34,7 @@ kannel_status read_kannel_status(int http_status, const QByteArray& body) {
             } else if (where == u"gateway/sms/storesize") {
                 status.stored = xml.text().toLongLong();
             } else if (where == u"gateway" && xml.text().contains(u"Denied")) {
-                return {say("Kannel does not know this status password")};
+                return {texts::tr("Kannel does not know this status password")};
             }
             break;
         }
@@ -43,7 +43,7 @@ kannel_status read_kannel_status(int http_status, const QByteArray& body) {
         }
     }
     if (xml.hasError() || !is_status) {
-        return {say("this is no status.xml of Kannel (HTTP %1)").arg(http_status)};
+        return {texts::tr("this is no status.xml of Kannel (HTTP %1)").arg(http_status)};
     }
     return status;
 }
@@ -52,7 +52,7 @@ QString tell(const kannel_status& status) {
     if (!status.fault.isEmpty()) {
         return status.fault;
     }
-    return say("%1 of %2 links online, %3 messages stored")
+    return texts::tr("%1 of %2 links online, %3 messages stored")
         .arg(status.online)
         .arg(status.links)
         .arg(status.stored);

@@ -4,8 +4,8 @@
 #include "gateway/list_command.h"
 
 #include "gateway/console.h"
-#include "gateway/message_text.h"
 #include "gateway/store.h"
+#include "gateway/texts.h"
 #include "platform/data_error.h"
 
 #include <QDateTime>
@@ -35,10 +35,11 @@ QString as_json(const row_store& rows, qsizetype row) {
 }
 
 QString as_line(const row_store& rows, qsizetype row) {
-    QString text = rows.text(row, 4);
-    return u"%1  %2  %3  %4  %5"_s.arg(rows.text(row, 0), time_text(rows.integer(row, 1)),
-                                       rows.text(row, 2), rows.text(row, 3),
-                                       text.replace(u'\n', u' '));
+    const QString reason = rows.text(row, 5);
+    return u"%1  %2  %3  %4  %5%6"_s.arg(rows.text(row, 0), time_text(rows.integer(row, 1)),
+                                         rows.text(row, 2), rows.text(row, 3),
+                                         rows.text(row, 4).replace(u'\n', u' '),
+                                         reason.isEmpty() ? reason : u"  ("_s + reason + u')');
 }
 
 } // namespace
@@ -47,14 +48,14 @@ int list_messages(const options& wanted) {
     try {
         store file(wanted.values.gateway.state_dir, store::user::reader);
         const row_store rows = file.database().rows(
-            u"SELECT id, taken_at, state, number, text, coalesce(reason, ''), absorbed, attempts FROM message WHERE ?1 IN ('', state) ORDER BY id"_s,
-            {wanted.state});
+            u"SELECT id, taken_at, state, number, text, coalesce(reason, ''), absorbed, attempts FROM message WHERE ?1 IN ('', state) AND taken_at >= ?2 ORDER BY id"_s,
+            {wanted.state, wanted.since});
         for (qsizetype row = 0; row < rows.rows(); ++row) {
             print((wanted.json ? as_json(rows, row) : as_line(rows, row)) + u'\n');
         }
         return EXIT_SUCCESS;
     } catch (const DataError& error) {
-        complain(say("cannot read the store in %1: %2")
+        complain(texts::tr("cannot read the store in %1: %2")
                      .arg(wanted.values.gateway.state_dir, error.detail()));
         return EXIT_FAILURE;
     }

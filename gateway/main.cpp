@@ -6,28 +6,34 @@
 #include "gateway/control_channel.h"
 #include "gateway/engines.h"
 #include "gateway/list_command.h"
-#include "gateway/message_text.h"
+#include "gateway/message_commands.h"
 #include "gateway/options.h"
 #include "gateway/relay.h"
+#include "gateway/setting_values.h"
+#include "gateway/status_page.h"
 #include "gateway/system_calls.h"
-#include "gateway/termination_watch.h"
+#include "gateway/texts.h"
 #include "platform/data_error.h"
 #include "platform/process_limits.h"
 #include "platform/program_language.h"
 #include "platform/standard_streams.h"
 #include "platform/terminal_application.h"
+#include "platform/termination_watch.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileSystemWatcher>
+#include <QTimer>
 
 #include <csignal>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -41,7 +47,7 @@ std::unique_ptr<gateway::control_channel> watch_commands(int descriptor,
                                                          gateway::backend& network) {
     auto channel = std::make_unique<gateway::control_channel>(descriptor);
     const auto complain = [](const QString& reason) {
-        gateway::complain(gateway::say("command ignored: %1").arg(reason));
+        gateway::complain(gateway::texts::tr("command ignored: %1").arg(reason));
     };
     QObject::connect(channel.get(), &gateway::control_channel::line_refused, complain);
     QObject::connect(channel.get(), &gateway::control_channel::line_read,
@@ -73,46 +79,76 @@ std::unique_ptr<QFileSystemWatcher> watch_nudges(const QString& folder, gateway:
     return watcher;
 }
 
+/// Opens the place of the status page and of the networks' calls. While another program has it the
+/// gateway does without, and tries again.
+void open_calls(gateway::http_server& calls, const gateway::endpoint& place, QTimer& again) {
+    const QString fault = calls.listen(place);
+    if (fault.isEmpty()) {
+        return;
+    }
+    gateway::complain(
+        gateway::texts::tr("no status page and no calls from networks until %1 is free: %2")
+            .arg(endpoint_text(place), fault));
+    again.callOnTimeout(&again, [&calls, &again, place] {
+        if (calls.listen(place).isEmpty()) {
+            again.stop();
+        }
+    });
+    again.start(10s);
+}
+
+/// The commands of the FIFO that is wanted, if there is one; the reason if it cannot be opened.
+QString watch_fifo(const QString& path, gateway::backend& network,
+                   std::unique_ptr<gateway::control_channel>& channel) {
+    QString reason;
+    const int descriptor = path.isEmpty() ? -1 : gateway::control_channel::open_fifo(path, reason);
+    if (descriptor >= 0) {
+        channel = watch_commands(descriptor, network);
+    }
+    return reason.isEmpty() ? reason
+                            : gateway::texts::tr("cannot open the FIFO %1: %2").arg(path, reason);
+}
+
 int serve(const gateway::options& wanted) {
-    const gateway::termination_watch termination;
+    const termination_watch termination;
     const gateway::settings& values = wanted.values;
     gateway::system_clock time;
     gateway::store store(values.gateway.state_dir, gateway::store::user::daemon);
     gateway::http_server calls;
-    const auto network = gateway::make_engine(values, time, &store, &calls);
-    if (values.http.on && values.gateway.engine == gateway::engine_name::kannel) {
-        const QString fault = calls.listen(values.http.listen);
-        if (!fault.isEmpty()) {
-            return fail(gateway::say("cannot listen on %1: %2")
-                            .arg(endpoint_text(values.http.listen), fault));
-        }
+    QTimer open_again;
+    const bool is_called = values.gateway.engine == gateway::engine_name::kannel;
+    if (values.http.on && (values.http.page || is_called)) {
+        open_calls(calls, values.http.listen, open_again);
     }
+    const auto network = gateway::make_engine(values, time, &store, &calls);
     std::unique_ptr<gateway::control_channel> fifo;
-    if (!wanted.control_path.isEmpty()) {
-        QString reason;
-        const int descriptor = gateway::control_channel::open_fifo(wanted.control_path, reason);
-        if (descriptor < 0) {
-            return fail(
-                gateway::say("cannot open the FIFO %1: %2").arg(wanted.control_path, reason));
-        }
-        fifo = watch_commands(descriptor, *network);
+    const QString no_fifo = watch_fifo(wanted.control_path, *network, fifo);
+    if (!no_fifo.isEmpty()) {
+        return fail(no_fifo);
     }
     gateway::relay relay(store, *network, time, values);
+    std::optional<gateway::status_page> page;
+    if (values.http.page) {
+        page.emplace(calls, store, *network, relay.clients(), time,
+                     gateway::name_of(values.gateway.engine));
+    }
     gateway::endpoint door = values.gateway.listen;
     const QString reason = open_door(relay.clients(), door);
     if (!reason.isEmpty()) {
-        return fail(gateway::say("cannot listen on %1: %2").arg(endpoint_text(door), reason));
+        return fail(gateway::texts::tr("cannot listen on %1: %2").arg(endpoint_text(door), reason));
     }
     relay.start();
     door.port = relay.clients().port();
-    gateway::print(gateway::say("listening on %1").arg(endpoint_text(door)) + u'\n');
+    gateway::print(u"listening on %1\n"_s.arg(endpoint_text(door))); // programs wait for this line
     gateway::tell_service_manager("READY=1");
     const auto nudges = watch_nudges(values.gateway.state_dir, relay);
     const auto input = watch_commands(STDIN_FILENO, *network);
-    QObject::connect(&termination, &gateway::termination_watch::requested, [&relay] {
+    const auto end = [&relay] {
         gateway::tell_service_manager("STOPPING=1");
         relay.end([] { QCoreApplication::quit(); });
-    });
+    };
+    QObject::connect(&termination, &termination_watch::requested, &calls, end,
+                     Qt::SingleShotConnection);
     return QCoreApplication::exec();
 }
 
@@ -122,13 +158,19 @@ int carry_out(const gateway::options& wanted) {
         return gateway::check_settings(wanted.values);
     case gateway::task::list:
         return gateway::list_messages(wanted);
+    case gateway::task::show:
+        return gateway::show_message(wanted);
+    case gateway::task::resend:
+        return gateway::resend_message(wanted);
+    case gateway::task::drop:
+        return gateway::drop_message(wanted);
     case gateway::task::serve:
         break;
     }
     try {
         return serve(wanted);
     } catch (const DataError& error) {
-        return fail(gateway::say("cannot use the store in %1: %2")
+        return fail(gateway::texts::tr("cannot use the store in %1: %2")
                         .arg(wanted.values.gateway.state_dir, error.detail()));
     }
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "gateway/network.h"
 #include "gateway/settings.h"
 
 #include <QString>
@@ -13,7 +14,7 @@
 namespace gateway {
 
 /// What is to be done.
-enum class task { serve, check, list };
+enum class task { serve, check, list, show, resend, drop };
 
 /// What the command line asks for, the settings file and what it names included.
 struct options {
@@ -21,7 +22,9 @@ struct options {
     settings values;
     QString control_path; ///< empty: no FIFO
     bool json = false;
-    QString state; ///< of the messages to list; empty: all
+    QString state;     ///< of the messages to list; empty: all
+    qint64 since = 0;  ///< of the messages to list: taken from this time on
+    message_id id = 0; ///< of the message to show, resend or drop
 };
 
 /// Text to print instead of serving: the help or the version.

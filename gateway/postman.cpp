@@ -23,7 +23,6 @@ void postman::add(client_link* link) {
     QObject::connect(link, &client_link::confirmed, link, [this](qint64 id) { confirm(id); });
     QObject::connect(link, &client_link::written, link, [this](qint64 id) {
         try_store([&] { rows_.set_written(id, clock_.now()); });
-        look();
     });
     look();
 }
@@ -43,11 +42,10 @@ client_link* postman::choose() const {
 }
 
 void postman::look() {
-    client_link* const wanted = current_ == nullptr || unconfirmed_ == 0 ? choose() : current_;
+    client_link* const wanted = current_ == nullptr || current_->can_bring() ? choose() : current_;
     if (wanted != current_) {
         current_ = wanted;
         brought_ = 0;
-        unconfirmed_ = 0;
     }
     if (current_ == nullptr || !current_->can_bring()) {
         return;
@@ -55,7 +53,6 @@ void postman::look() {
     std::optional<waiting_message> next;
     if (try_store([&] { next = rows_.waiting_after(brought_); }) && next) {
         brought_ = next->id;
-        ++unconfirmed_;
         current_->bring(next->id, for_client(*next));
     }
 }
@@ -63,7 +60,6 @@ void postman::look() {
 void postman::confirm(qint64 id) {
     // Where this fails, the message comes again to the next client.
     try_store([&] { rows_.set_confirmed(id, clock_.now()); });
-    --unconfirmed_;
     look();
 }
 

@@ -14,8 +14,9 @@ namespace gateway {
 
 class client_link;
 
-/// Brings received messages to one client, in the order in which they came. Each waits in the store
-/// until a client has surely read it; when the link ends before, the next client gets it again.
+/// Brings received messages to one client, one at a time in the order in which they came. Each
+/// waits in the store until a client has surely read it; when the link ends before, the next client
+/// gets it again.
 class postman {
 public:
     postman(store& file, clock& time, number_settings numbers);
@@ -44,8 +45,7 @@ private:
     received_rows rows_;
     QList<client_link*> links_;
     client_link* current_ = nullptr;
-    qint64 brought_ = 0;  ///< the last that was given to the current link
-    int unconfirmed_ = 0; ///< of those that were
+    qint64 brought_ = 0; ///< the last that was given to the current link
 };
 
 } // namespace gateway

@@ -88,7 +88,9 @@ QString name_of(fate what) {
 message_state state_after(message_state before, handover_result result) {
     // A report that came first knows more; and what a person gave up goes out no more.
     const bool waits = before == message_state::handing || before == message_state::unknown;
-    const bool can_be_accepted = waits || before == message_state::dropped;
+    // One that is to go again, or shall not, but has gone already.
+    const bool can_be_accepted =
+        waits || before == message_state::dropped || before == message_state::queued;
     switch (result) {
     case handover_result::accepted:
         return can_be_accepted ? message_state::accepted : before;
@@ -123,6 +125,15 @@ bool is_settled(message_state state) {
            state == message_state::failed || state == message_state::dropped;
 }
 
+bool can_be_resent(message_state state) {
+    return can_be_dropped(state) || state == message_state::failed ||
+           state == message_state::dropped;
+}
+
+bool can_be_dropped(message_state state) {
+    return state == message_state::queued || state == message_state::unknown;
+}
+
 std::chrono::milliseconds pause_after(int attempts) {
     constexpr std::chrono::milliseconds longest = 5min;
     const int doublings = std::clamp(attempts - 1, 0, 9); // the tenth would pass the longest
@@ -141,6 +152,11 @@ bool is_told(told_failures wanted, const QString& text, fate told) {
     return is_failure && !text.startsWith(notice_mark) &&
            (wanted == told_failures::all ||
             (wanted == told_failures::refused && told == fate::refused));
+}
+
+QString failure_reason(const QString& words, fate told, failure_cause cause) {
+    return words.isEmpty() ? cause_text(told, cause)
+                           : u"%1（%2）"_s.arg(cause_text(told, cause), words);
 }
 
 QString failure_notice(const QString& text, fate told, failure_cause cause) {

@@ -47,6 +47,11 @@ enum class answer_state {
 /// Nothing more is done about such a message; it may be cleaned away one day.
 [[nodiscard]] bool is_settled(message_state state);
 
+/// What a person may do: have a message sent again, or give it up. One that the network has is not
+/// to be sent again, and one that is being handed over cannot be held back.
+[[nodiscard]] bool can_be_resent(message_state state);
+[[nodiscard]] bool can_be_dropped(message_state state);
+
 /// How long a message waits that the network did not take now, after so many attempts: 1 s and
 /// then twice as long each time, up to 5 minutes.
 [[nodiscard]] std::chrono::milliseconds pause_after(int attempts);
@@ -68,6 +73,8 @@ inline constexpr std::chrono::milliseconds longest_open{24 * 3'600'000};
 
 /// Whether the office is told of a message that failed so.
 [[nodiscard]] bool is_told(told_failures wanted, const QString& text, fate told);
+/// Why it failed, for the office: in a few words, and in the network's own if it has any.
+[[nodiscard]] QString failure_reason(const QString& words, fate told, failure_cause cause);
 /// What the office then reads: the reason in a few words and the beginning of the text.
 [[nodiscard]] QString failure_notice(const QString& text, fate told, failure_cause cause);
 

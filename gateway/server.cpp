@@ -4,8 +4,8 @@
 #include "gateway/server.h"
 
 #include "gateway/console.h"
-#include "gateway/message_text.h"
 #include "gateway/system_calls.h"
+#include "gateway/texts.h"
 
 #include <algorithm>
 
@@ -36,7 +36,7 @@ server::server(intake& taking, postman& received, clock& time, int links_per_add
     // The one that cannot be let in would be announced again and again.
     connect(&listener_, &QTcpServer::acceptError, this, [this] {
         listener_.pauseAccepting();
-        drop_silent({}, say("no file is free for another client"));
+        drop_silent({}, texts::tr("no file is free for another client"));
         accept_again_->set(1s);
     });
 }
@@ -59,12 +59,12 @@ void server::accept_clients() {
         const QString client = socket->peerAddress().toString();
         const bool has_room =
             (count_links(client) < links_per_address_ ||
-             drop_silent(client, say("too many links from %1").arg(client))) &&
-            (links_.size() < most_links_ || drop_silent({}, say("too many links")));
+             drop_silent(client, texts::tr("too many links from %1").arg(client))) &&
+            (links_.size() < most_links_ || drop_silent({}, texts::tr("too many links")));
         if (has_room) {
             add_client(socket);
         } else {
-            complain(say("a client at %1 is turned away: too many links").arg(client));
+            complain(texts::tr("a client at %1 is turned away: too many links").arg(client));
             socket->abort();
             socket->deleteLater();
         }
@@ -111,7 +111,7 @@ void server::add_client(QTcpSocket* socket) {
 
 void server::remove_client(client_link* link, const QString& reason) {
     if (!reason.isEmpty()) {
-        complain(say("a client at %1 is disconnected: %2").arg(link->client(), reason));
+        complain(texts::tr("a client at %1 is disconnected: %2").arg(link->client(), reason));
     }
     links_.removeOne(link);
     intake_.count_links(link->client(), count_links(link->client()));
@@ -143,7 +143,7 @@ void server::end_earlier_links(const client_link* link) {
 }
 
 void server::distrust_all() {
-    complain(say("the gateway stood still: what came meanwhile is refused"));
+    complain(texts::tr("the gateway stood still: what came meanwhile is refused"));
     trusted_from_ = clock_.steady() + letting_in.count();
     for (client_link* link : QList(links_)) {
         link->distrust();

@@ -32,6 +32,8 @@ public:
     /// several frames in one piece, and is not trusted.
     [[nodiscard]] QString adopt(qintptr listener);
 
+    [[nodiscard]] int client_count() const { return static_cast<int>(links_.size()); }
+
     /// The port it listens on.
     [[nodiscard]] quint16 port() const;
 

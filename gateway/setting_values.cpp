@@ -3,7 +3,7 @@
 
 #include "gateway/setting_values.h"
 
-#include "gateway/message_text.h"
+#include "gateway/texts.h"
 
 #include <QRegularExpression>
 
@@ -22,7 +22,7 @@ QString choose(const QString& value, bool& target) {
     const bool on = value == u"yes" || value == u"true" || value == u"on" || value == u"1";
     const bool off = value == u"no" || value == u"false" || value == u"off" || value == u"0";
     target = on || (target && !off);
-    return on || off ? QString() : say("yes or no");
+    return on || off ? QString() : texts::tr("yes or no");
 }
 
 QString set_text(const QString& value, QString& target) {
@@ -34,7 +34,7 @@ QString set_int(const QString& value, int& target, int least, int most) {
     bool ok = false;
     const int number = value.toInt(&ok);
     if (!ok || number < least || number > most) {
-        return say("a whole number from %1 to %2").arg(least).arg(most);
+        return texts::tr("a whole number from %1 to %2").arg(least).arg(most);
     }
     target = number;
     return {};
@@ -45,7 +45,7 @@ QString set_rate(const QString& value, double& target) {
     const double rate = value.toDouble(&ok);
     // Written so that "nan" is refused too.
     if (!(ok && rate >= 0 && rate <= 1)) {
-        return say("a probability from 0 to 1");
+        return texts::tr("a probability from 0 to 1");
     }
     target = rate;
     return {};
@@ -69,7 +69,7 @@ QString set_endpoint(const QString& value, endpoint& target) {
     const quint16 port = QStringView(value).sliced(colon + 1).toUShort(&ok);
     QHostAddress address;
     if (colon < 0 || !ok || !address.setAddress(host)) {
-        return say("an IP address, a colon and a port from 0 to 65535");
+        return texts::tr("an IP address, a colon and a port from 0 to 65535");
     }
     target = {address, port};
     return {};
@@ -78,7 +78,7 @@ QString set_endpoint(const QString& value, endpoint& target) {
 QString set_url(const QString& value, QUrl& target) {
     const QUrl url(value, QUrl::StrictMode);
     if (!value.isEmpty() && (!url.isValid() || url.scheme() != u"http" || url.host().isEmpty())) {
-        return say("an address that begins with http://");
+        return texts::tr("an address that begins with http://");
     }
     target = url;
     return {};
@@ -87,7 +87,7 @@ QString set_url(const QString& value, QUrl& target) {
 QString set_digits(const QString& value, QString& target, qsizetype most) {
     static const QRegularExpression digits(u"\\A[0-9]*\\z"_s);
     if (value.size() > most || !digits.match(value).hasMatch()) {
-        return say("up to %1 digits").arg(most);
+        return texts::tr("up to %1 digits").arg(most);
     }
     target = value;
     return {};
@@ -97,7 +97,7 @@ QString set_digits(const QString& value, QString& target, qsizetype most) {
 QString set_secret(const QString& value, QString& target) {
     static const QRegularExpression letters(u"\\A[A-Za-z0-9_-]{16,200}\\z"_s);
     if (!value.isEmpty() && !letters.match(value).hasMatch()) {
-        return say(R"(16 to 200 letters of English, digits, "_" and "-")");
+        return texts::tr(R"(16 to 200 letters of English, digits, "_" and "-")");
     }
     target = value;
     return {};
@@ -109,8 +109,9 @@ QString set_patterns(const QString& value, QStringList& target) {
     for (const QString& one : value.split(u',', Qt::SkipEmptyParts)) {
         patterns.append(one.trimmed());
         if (!pattern.match(patterns.last()).hasMatch()) {
-            return say("numbers with \"x\" for any digit, \"*\" at the end for more of them, and "
-                       "commas between");
+            return texts::tr(
+                "numbers with \"x\" for any digit, \"*\" at the end for more of them, and "
+                "commas between");
         }
     }
     target = patterns;
@@ -129,7 +130,7 @@ QString set_choice(const QString& value, Choice& target,
         }
         names.append(name.toString());
     }
-    return say("one of: %1").arg(names.join(u", "_s));
+    return texts::tr("one of: %1").arg(names.join(u", "_s));
 }
 
 constexpr std::array engines{
@@ -193,6 +194,7 @@ constexpr std::array known{
     setting{u"gammu/window", [](values& s, text& v) { return set_int(v, s.gammu.window, 1, 1'000); }},
     setting{u"gammu/poll_ms", [](values& s, text& v) { return set_time(v, s.gammu.poll, 50); }},
     setting{u"http/on", [](values& s, text& v) { return choose(v, s.http.on); }},
+    setting{u"http/page", [](values& s, text& v) { return choose(v, s.http.page); }},
     setting{u"http/listen", [](values& s, text& v) { return set_endpoint(v, s.http.listen); }},
     setting{u"http/secret", [](values& s, text& v) { return set_secret(v, s.http.secret); }},
 };
@@ -203,7 +205,13 @@ constexpr std::array known{
 QString apply_setting(settings& target, const QString& name, const QString& value) {
     const auto found = std::find_if(known.begin(), known.end(),
                                     [&name](const setting& one) { return one.name == name; });
-    return found == known.end() ? say("no such setting") : found->apply(target, value);
+    return found == known.end() ? texts::tr("no such setting") : found->apply(target, value);
+}
+
+QString name_of(engine_name engine) {
+    const auto* found = std::find_if(engines.begin(), engines.end(),
+                                     [engine](const auto& one) { return one.second == engine; });
+    return found->first.toString();
 }
 
 QStringList setting_names() {

@@ -11,6 +11,9 @@ namespace gateway {
 /// value does not fit, and leaves the setting as it was; else nothing.
 [[nodiscard]] QString apply_setting(settings& target, const QString& name, const QString& value);
 
+/// The name of an engine in the file.
+[[nodiscard]] QString name_of(engine_name engine);
+
 /// The names of all settings there are, "section/key".
 [[nodiscard]] QStringList setting_names();
 

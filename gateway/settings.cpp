@@ -3,8 +3,8 @@
 
 #include "gateway/settings.h"
 
-#include "gateway/message_text.h"
 #include "gateway/setting_values.h"
+#include "gateway/texts.h"
 
 #include <QFile>
 #include <QHash>
@@ -48,21 +48,22 @@ private:
         const qsizetype sign = line.indexOf(u'=');
         const QString value = line.sliced(sign + 1).trimmed();
         if (sign <= 0) {
-            faults_.emplaceBack(line_, say("expected \"[section]\", \"key = value\" or a comment "
-                                           "that begins with \";\""));
+            faults_.emplaceBack(line_,
+                                texts::tr("expected \"[section]\", \"key = value\" or a comment "
+                                          "that begins with \";\""));
             return;
         }
         const QString name = section_ + u'/' + line.left(sign).trimmed();
         if (lines_.contains(name)) {
             faults_.emplaceBack(
-                line_, say("%1 stands already in line %2").arg(name).arg(lines_.value(name)));
+                line_, texts::tr("%1 stands already in line %2").arg(name).arg(lines_.value(name)));
         }
         lines_.insert(name, line_);
         static const QRegularExpression misread(u"[;\\\\]"_s);
         if (!value.startsWith(u'"') &&
             (value.contains(misread) || (is_secret(name) && value.contains(u',')))) {
-            faults_.emplaceBack(line_, say("%1: a value with one of , ; \\ belongs between "
-                                           "quotation marks, with \\\\ for each \\")
+            faults_.emplaceBack(line_, texts::tr("%1: a value with one of , ; \\ belongs between "
+                                                 "quotation marks, each \\ in it twice")
                                            .arg(name));
         }
     }
@@ -78,7 +79,7 @@ QStringList missing(const settings& values) {
     QStringList faults;
     const auto require = [&faults](bool given, const QString& name) {
         if (!given) {
-            faults.append(say("%1 is missing").arg(name));
+            faults.append(texts::tr("%1 is missing").arg(name));
         }
     };
     switch (values.gateway.engine) {
@@ -115,21 +116,22 @@ settings_reading read_settings(const QString& path) {
     }
     const QSettings ini(path, QSettings::IniFormat);
     if (ini.status() != QSettings::NoError && lines.faults().isEmpty()) {
-        result.faults.append(say("%1: this is no settings file").arg(path));
+        result.faults.append(texts::tr("%1: this is no settings file").arg(path));
     }
     const QStringList known = setting_names();
     for (const QString& name : ini.allKeys()) {
         // A value with commas is read as a list.
         const QString value = ini.value(name).toStringList().join(u',');
         if (!known.contains(name)) {
-            complain(lines.line_of(name), say("there is no setting %1").arg(name));
+            complain(lines.line_of(name), texts::tr("there is no setting %1").arg(name));
             continue;
         }
         const QString expected = apply_setting(result.values, name, value);
         if (!expected.isEmpty()) {
             complain(lines.line_of(name),
-                     is_secret(name) ? say("%1: expected %2").arg(name, expected)
-                                     : say("%1 = %2: expected %3").arg(name, value, expected));
+                     is_secret(name)
+                         ? texts::tr("%1: expected %2").arg(name, expected)
+                         : texts::tr("%1 = %2: expected %3").arg(name, value, expected));
         }
     }
     for (const QString& what : missing(result.values)) {

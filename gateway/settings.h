@@ -93,6 +93,7 @@ struct gammu_settings {
 /// [http]: the status page, and where networks call back.
 struct http_settings {
     bool on = true;
+    bool page = true;
     endpoint listen{QHostAddress(QHostAddress::LocalHost), 9101};
     QString secret; ///< a part of the path that networks call
 };

@@ -3,8 +3,8 @@
 
 #include "gateway/simulator_backend.h"
 
-#include "gateway/message_text.h"
 #include "gateway/numbers.h"
+#include "gateway/texts.h"
 #include "gateway/try_store.h"
 
 #include <QDateTime>
@@ -28,12 +28,12 @@ handover to_handover(const QString& outcome) {
         return {.result = handover_result::accepted};
     }
     if (outcome == u"refused") {
-        return {.result = handover_result::refused, .reason = u"simulated refusal"_s};
+        return {.result = handover_result::refused, .reason = texts::tr("simulated refusal")};
     }
     if (outcome == u"not now") {
-        return {.result = handover_result::not_now, .reason = u"simulated throttling"_s};
+        return {.result = handover_result::not_now, .reason = texts::tr("simulated throttling")};
     }
-    return {.result = handover_result::unknown, .reason = u"simulated silence"_s};
+    return {.result = handover_result::unknown, .reason = texts::tr("simulated silence")};
 }
 
 } // namespace
@@ -58,7 +58,8 @@ void simulator_backend::start(network_sink& sink) {
 }
 
 network_health simulator_backend::health() const {
-    return {up_, up_ ? say("simulated network") : say("simulated network, switched off")};
+    return {up_,
+            up_ ? texts::tr("simulated network") : texts::tr("simulated network, switched off")};
 }
 
 void simulator_backend::check(const std::function<void(const QString& fault)>& done) {
@@ -153,10 +154,10 @@ QString simulator_backend::command(const QString& line) {
     const QString number = line.section(u' ', 1, 1);
     const QString text = line.section(u' ', 2);
     if (word != u"recv" || text.isEmpty()) {
-        return say(R"(expected "recv NUMBER TEXT", "up" or "down")");
+        return texts::tr(R"(expected "recv NUMBER TEXT", "up" or "down")");
     }
     if (!is_number(number)) {
-        return say("\"%1\" is not a number").arg(number);
+        return texts::tr("\"%1\" is not a number").arg(number);
     }
     receive(number, text);
     return {};

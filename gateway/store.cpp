@@ -3,8 +3,8 @@
 
 #include "gateway/store.h"
 
-#include "gateway/message_text.h"
 #include "gateway/store_tables.h"
+#include "gateway/texts.h"
 #include "platform/data_error.h"
 #include "platform/database/exclusive_lease.h"
 
@@ -25,7 +25,7 @@ void make_folder(const QString& folder) {
     constexpr auto owner_alone =
         QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
     if (!QDir().mkpath(parent) || !QDir().mkdir(dir.absolutePath(), owner_alone)) {
-        throw DataError(DataError::Kind::cannot_open, say("cannot make the folder"));
+        throw DataError(DataError::Kind::cannot_open, texts::tr("cannot make the folder"));
     }
 }
 
@@ -46,7 +46,7 @@ store::store(const QString& folder, user who) {
         database_ = open_database(path, physical_database::open_mode::create);
         lease_ = std::make_unique<exclusive_lease>(path);
         if (!lease_->try_take()) {
-            throw DataError(DataError::Kind::locked, say("another gateway has it open"));
+            throw DataError(DataError::Kind::locked, texts::tr("another gateway has it open"));
         }
         prepare();
     } else {
@@ -57,8 +57,8 @@ store::store(const QString& folder, user who) {
     const int found = database_->schema_version();
     if (found != version) {
         throw DataError(DataError::Kind::cannot_open,
-                        found > version ? say("it is of a newer version of this program")
-                                        : say("it is not complete"));
+                        found > version ? texts::tr("it is of a newer version of this program")
+                                        : texts::tr("it is not complete"));
     }
 }
 

@@ -26,10 +26,15 @@ CREATE TABLE message (
     reason TEXT,
     done_at INTEGER                       -- when nothing was left to be done about it
 );
+-- From the seconds since 1970 on: what a network still tells of an earlier store, whose messages did
+-- not come faster than one a second, meets none of these.
+INSERT INTO sqlite_sequence (name, seq) VALUES ('message', unixepoch());
 CREATE INDEX message_open ON message (client, digest) WHERE answer = 'open';
 CREATE INDEX message_queued ON message (next_at, id) WHERE state = 'queued';
 CREATE INDEX message_unknown ON message (next_at, id) WHERE state = 'unknown';
-CREATE INDEX message_done ON message (done_at) WHERE done_at IS NOT NULL;
+CREATE INDEX message_handing ON message (id) WHERE state = 'handing';
+CREATE INDEX message_failed ON message (since) WHERE state = 'failed';
+CREATE INDEX message_done ON message (done_at, state) WHERE done_at IS NOT NULL;
 CREATE TABLE event (
     message INTEGER NOT NULL,             -- the key's columns first: SQLite 3.40 takes other orders
     fate TEXT NOT NULL,                   -- for damage when it checks the file

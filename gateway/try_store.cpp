@@ -4,7 +4,7 @@
 #include "gateway/try_store.h"
 
 #include "gateway/console.h"
-#include "gateway/message_text.h"
+#include "gateway/texts.h"
 #include "platform/data_error.h"
 
 #include <utility>
@@ -19,7 +19,7 @@ bool try_store(const std::function<void()>& work) {
         return true;
     } catch (const DataError& error) {
         if (!std::exchange(failing, true)) {
-            complain(say("the store cannot be used: %1").arg(error.detail()));
+            complain(texts::tr("the store cannot be used: %1").arg(error.detail()));
         }
         return false;
     }

@@ -30,7 +30,12 @@ void take_over(void (*handler)(int)) {
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
     for (const int wish : wishes) {
-        ::sigaction(wish, &action, nullptr);
+        struct sigaction before = {};
+        ::sigaction(wish, nullptr, &before);
+        const bool outlives_terminal = wish == SIGHUP && before.sa_handler == SIG_IGN; // "nohup"
+        if (!outlives_terminal) {
+            ::sigaction(wish, &action, nullptr);
+        }
     }
 }
 

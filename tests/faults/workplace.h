@@ -153,7 +153,7 @@ public:
 private:
     void start_gateway() {
         do {
-            const auto words = QStringLiteral("--listen 127.0.0.1:%1 --state %2 %3")
+            const auto words = QStringLiteral("--no-page --listen 127.0.0.1:%1 --state %2 %3")
                                    .arg(QString::number(port_), state_, options_);
             gateway_ =
                 std::make_unique<process>(QStringLiteral("/../bin/smsgateway"), words.split(u' '));

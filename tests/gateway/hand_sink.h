@@ -22,7 +22,12 @@ public:
     [[nodiscard]] bool take(const gateway::incoming_part& part) override {
         return keep(parts, part);
     }
-    void health_changed() override {}
+    void health_changed() override { ++changes; }
+
+    [[nodiscard]] bool has_report(gateway::message_id id, gateway::fate what) const {
+        return std::any_of(reports.begin(), reports.end(),
+                           [&](const auto& one) { return one.id == id && one.what == what; });
+    }
 
     QMap<gateway::message_id, gateway::handover> settled;
     int settles = 0;
@@ -31,6 +36,7 @@ public:
     QList<gateway::incoming_part> parts;
     bool keeps = true;
     int turned_away = 0;
+    int changes = 0; ///< of the health
 
 private:
     template <class News>

@@ -94,7 +94,8 @@ protected:
             {u"undelivered"_s, gateway::fate::undelivered}};
         clock_.advance(100ms); // what is due is handed over
         if (fates.contains(word)) {
-            QVERIFY(network_->sink->take(gateway::report{.id = 1, .what = fates.at(word)}));
+            const qint64 first = rows(u"SELECT min(id) FROM message"_s).toLongLong();
+            QVERIFY(network_->sink->take(gateway::report{.id = first, .what = fates.at(word)}));
         } else if (word == u"up" || word == u"down") {
             network_->up = word == u"up";
             network_->sink->health_changed();

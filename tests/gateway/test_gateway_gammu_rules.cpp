@@ -49,7 +49,7 @@ private slots:
 
     void splits() {
         QFETCH(QString, text);
-        const auto split = gateway::split_text(text, 0x1a7);
+        const auto split = gateway::gammu_parts_of(text, 0x1a7);
         QTEST(split.is_unicode, "unicode");
         QList<int> lengths;
         QString joined;

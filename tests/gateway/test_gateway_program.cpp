@@ -37,9 +37,19 @@ private:
         started_ = process_->waitForReadyRead() ? process_->readLine() : QByteArray();
     }
 
+    // What a command on a message says; its status stands before it.
+    QString decide(const QString& command, const QString& id) {
+        QProcess program;
+        program.setProcessChannelMode(QProcess::MergedChannels);
+        program.start(QString::fromUtf8(SMSGATEWAY_PATH), {command, id, u"--state"_s, state_});
+        program.waitForFinished();
+        return QString::number(program.exitCode()) + QString::fromUtf8(program.readAll());
+    }
+
     // Starts the program on a free port and connects to it.
     void serve(const QStringList& options, const std::function<void()>& in_child = {}) {
-        start(QStringList{u"--listen"_s, u"127.0.0.1:0"_s, u"--state"_s, state_} + options,
+        start(QStringList{u"--listen"_s, u"127.0.0.1:0"_s, u"--no-page"_s, u"--state"_s, state_} +
+                  options,
               QString::fromUtf8(SMSGATEWAY_PATH), in_child);
         QVERIFY(started_.startsWith("listening on 127.0.0.1:"));
         client_ = std::make_unique<test_client>(started_.trimmed().split(':').last().toUShort());
@@ -52,15 +62,16 @@ private:
     }
 
     // State, number and text of the messages that the store holds.
-    QString list() {
+    QString list(const QStringList& options = {}) {
         QProcess lister;
         lister.start(QString::fromUtf8(SMSGATEWAY_PATH),
-                     {u"list"_s, u"--json"_s, u"--state"_s, state_});
+                     QStringList{u"list"_s, u"--json"_s, u"--store"_s, state_} + options);
         lister.waitForFinished();
         QStringList lines;
         for (const QByteArray& line : lister.readAllStandardOutput().split('\n')) {
             const auto row = QJsonDocument::fromJson(line);
             if (!row.isNull()) {
+                last_id_ = QString::number(row[u"id"].toInteger());
                 lines.append(row[u"state"].toString() + u' ' + row[u"number"].toString() + u' ' +
                              row[u"text"].toString());
             }
@@ -74,6 +85,7 @@ private:
     std::unique_ptr<QProcess> process_;
     std::unique_ptr<test_client> client_;
     QByteArray started_;
+    QString last_id_; ///< of those that were listed
     int ended_ = 0;
 
 private slots:
@@ -96,8 +108,8 @@ private slots:
              {"--backend", "--backend carrier", "--fail-rate 1.01", "--drop-rate -0.1",
               "--fail-rate nan", "--delay -1", "--listen 127.0.0.1:65536", "--listen 300.0.0.1:0",
               "--listen 127.0.0.1:TAKEN", "--state /proc/nowhere", "--control /nowhere/fifo",
-              "--control /dev/null", "--config /nowhere", "--in-state lost", "sing",
-              "check list"}) {
+              "--control /dev/null", "--config /nowhere", "list --state lost", "list --since noon",
+              "show x", "drop", "sing", "check list"}) {
             QTest::newRow(arguments) << QString::fromUtf8(arguments);
         }
     }
@@ -139,6 +151,33 @@ private slots:
         client_->send(u"no number"_s);
         QTRY_VERIFY(client_->answers().endsWith(u'2'));
         QVERIFY(!list().contains(u'|'));
+    }
+
+    void obeys_a_person() {
+        serve({u"--fail-rate"_s, u"1"_s});
+        client_->send(message_);
+        QTRY_COMPARE(list({u"--state"_s, u"failed"_s}), u"failed +8613912345678 Hello"_s);
+        QCOMPARE(list({u"--since"_s, u"2999-01-01"_s}), QString());
+        const QString first = last_id_;
+        process_->write("down\n");
+        QByteArray told;
+        QTRY_VERIFY((told += process_->readAllStandardError()).contains("switched off"));
+        QCOMPARE(decide(u"resend"_s, first), u"0"_s);
+        QCOMPARE(list(), u"queued +8613912345678 Hello"_s);
+        process_->write("up\n");
+        QTRY_COMPARE(list(), u"failed +8613912345678 Hello"_s);
+        QCOMPARE(decide(u"drop"_s, first),
+                 u"1smsgateway: message %1 is failed: nothing is changed\n"_s.arg(first));
+        // The daemon is told: it looks when it would not by itself.
+        QCOMPARE(decide(u"resend"_s, first), u"0"_s);
+        QTRY_VERIFY(decide(u"show"_s, first).contains(u"attempts: 3"));
+        QVERIFY(decide(u"show"_s, first).contains(u"  resent\n"));
+        process_->write("down\n");
+        client_->send(message_ + u"2"_s);
+        QTRY_COMPARE(list({u"--state"_s, u"queued"_s}), u"queued +8613912345678 Hello2"_s);
+        QCOMPARE(decide(u"drop"_s, last_id_), u"0"_s);
+        QVERIFY(list().endsWith(u"dropped +8613912345678 Hello2"_s));
+        QCOMPARE(decide(u"show"_s, u"5"_s), u"1smsgateway: there is no message 5\n"_s);
     }
 
     void brings_messages() {
@@ -187,8 +226,8 @@ private slots:
         const int descriptor = static_cast<int>(door.socketDescriptor());
         start(
             {u"-c"_s,
-             u"export LISTEN_PID=$$ LISTEN_FDS=1 NOTIFY_SOCKET='%1'; exec '%2' --state '%3'"_s.arg(
-                 QFile::decodeName(path), QString::fromUtf8(SMSGATEWAY_PATH), state_)},
+             u"export LISTEN_PID=$$ LISTEN_FDS=1 NOTIFY_SOCKET='%1'; exec '%2' --no-page --state '%3'"_s
+                 .arg(QFile::decodeName(path), QString::fromUtf8(SMSGATEWAY_PATH), state_)},
             u"/bin/sh"_s, [descriptor] { ::dup2(descriptor, 3); });
         QVERIFY(started_.contains(QByteArray::number(door.serverPort())));
         QTRY_COMPARE(hear(), QByteArray("READY=1"));

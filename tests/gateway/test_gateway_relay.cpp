@@ -198,6 +198,16 @@ private slots:
         QTRY_VERIFY((clock_.advance(1s), ended));
     }
 
+    // What a person decides while the dispatcher is about to act comes first.
+    void begins_nothing_that_was_dropped() {
+        act(u"a>x"_s);
+        const gateway::message_id id = rows(u"SELECT id FROM message"_s).toLongLong();
+        QVERIFY(id > 1'700'000'000); // an id of an earlier store would be taken for this one's
+        store_->database().execute(u"UPDATE message SET state = 'dropped'"_s);
+        gateway::dispatch_rows rows(*store_);
+        QVERIFY(!rows.begin(id, 1) && !rows.put_off(id, 1));
+    }
+
     void guards_its_store() {
         const QString path = gateway::store::path_in(folder_->path());
         QCOMPARE(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), 0);

@@ -21,7 +21,7 @@ private slots:
         // undelivered.
         QTest::addColumn<QString>("after");
         QTest::newRow("queued") << u"queued"_s
-                                << u"queued queued queued queued accepted delivered failed"_s;
+                                << u"accepted queued queued queued accepted delivered failed"_s;
         QTest::newRow("handing") << u"handing"_s
                                  << u"accepted failed queued unknown accepted delivered failed"_s;
         QTest::newRow("unknown") << u"unknown"_s
