@@ -132,14 +132,14 @@ int serve(const gateway::options& wanted) {
         page.emplace(calls, store, *network, relay.clients(), time,
                      gateway::name_of(values.gateway.engine));
     }
-    gateway::endpoint door = values.gateway.listen;
-    const QString reason = open_door(relay.clients(), door);
+    const QString reason = open_door(relay.clients(), values.gateway.listen);
     if (!reason.isEmpty()) {
-        return fail(gateway::texts::tr("cannot listen on %1: %2").arg(endpoint_text(door), reason));
+        return fail(gateway::texts::tr("cannot listen on %1: %2")
+                        .arg(endpoint_text(values.gateway.listen), reason));
     }
     relay.start();
-    door.port = relay.clients().port();
-    gateway::print(u"listening on %1\n"_s.arg(endpoint_text(door))); // programs wait for this line
+    // Programs wait for this line.
+    gateway::print(u"listening on %1\n"_s.arg(endpoint_text(relay.clients().place())));
     gateway::tell_service_manager("READY=1");
     const auto nudges = watch_nudges(values.gateway.state_dir, relay);
     const auto input = watch_commands(STDIN_FILENO, *network);

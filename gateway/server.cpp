@@ -50,8 +50,8 @@ QString server::adopt(qintptr listener) {
     return listener_.setSocketDescriptor(listener) ? QString() : listener_.errorString();
 }
 
-quint16 server::port() const {
-    return listener_.serverPort();
+endpoint server::place() const {
+    return {listener_.serverAddress(), listener_.serverPort()};
 }
 
 void server::accept_clients() {

@@ -34,8 +34,8 @@ public:
 
     [[nodiscard]] int client_count() const { return static_cast<int>(links_.size()); }
 
-    /// The port it listens on.
-    [[nodiscard]] quint16 port() const;
+    /// The address and the port it listens on.
+    [[nodiscard]] endpoint place() const;
 
     /// Lets nobody in any more, answers what has come and ends every link in order. `ended` is
     /// called when all are gone, or after a time.

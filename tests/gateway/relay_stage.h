@@ -47,7 +47,7 @@ protected:
     test_client& client(const QString& name) {
         auto& found = clients_[name];
         if (!found) {
-            found = std::make_unique<test_client>(relay_->clients().port());
+            found = std::make_unique<test_client>(relay_->clients().place().port);
             [&] { QTRY_COMPARE(found->state(), QAbstractSocket::ConnectedState); }();
         }
         return *found;
