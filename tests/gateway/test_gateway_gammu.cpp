@@ -13,26 +13,36 @@ class test_gateway_gammu : public QObject {
     Q_OBJECT
 
     /// Moves what is queued to what was sent, as the daemon does.
-    static void send(gammu_stage& stage, const QString& status) {
-        stage.run(u"INSERT INTO sentitems (ID, CreatorID, SenderID, Text, UDH, Status, TPMR, "
-                  "SendingDateTime) SELECT ID, CreatorID, '', '', '', '%1', 9, datetime('now', "
-                  "'localtime') FROM outbox"_s.arg(status));
-        stage.run(u"DELETE FROM outbox"_s);
+    void send(const QString& status) {
+        stage_->run(u"INSERT INTO sentitems (ID, CreatorID, SenderID, Text, UDH, Status, TPMR, "
+                    "SendingDateTime) SELECT ID, CreatorID, '', '', '', '%1', 9, datetime('now', "
+                    "'localtime') FROM outbox"_s.arg(status));
+        stage_->run(u"DELETE FROM outbox"_s);
     }
 
     /// The daemon takes the message into its hand, so long ago, for so many seconds.
-    static void take_in_hand(gammu_stage& stage, int seconds_ago, int seconds) {
-        stage.run(u"DROP TRIGGER update_outbox_time"_s);
-        stage.run(u"UPDATE outbox SET UpdatedInDB = datetime('now', '-%1 seconds'), SendingTimeOut "
-                  "= datetime('now', 'localtime', '%2 seconds')"_s.arg(seconds_ago)
-                      .arg(seconds - seconds_ago));
+    void take_in_hand(int seconds_ago, int seconds) {
+        stage_->run(u"DROP TRIGGER update_outbox_time"_s);
+        stage_->run(
+            u"UPDATE outbox SET UpdatedInDB = datetime('now', '-%1 seconds'), SendingTimeOut "
+            "= datetime('now', 'localtime', '%2 seconds')"_s.arg(seconds_ago)
+                .arg(seconds - seconds_ago));
     }
 
-    static QStringList queue(const gammu_stage& stage) {
-        return stage.column(u"SELECT CreatorID FROM outbox"_s);
+    [[nodiscard]] QStringList queue() const {
+        return stage_->column(u"SELECT CreatorID FROM outbox"_s);
     }
+
+    std::unique_ptr<gammu_stage> stage_;
 
 private slots:
+    void init() {
+        stage_ = std::make_unique<gammu_stage>();
+        stage_->sign_in();
+        stage_->start_engine();
+        QTRY_VERIFY(stage_->engine->health().up);
+    }
+
     void tells_what_is_wrong_data() {
         QTest::addColumn<QString>("sql");
         QTest::addColumn<QString>("told");
@@ -51,16 +61,14 @@ private slots:
     void tells_what_is_wrong() {
         QFETCH(QString, sql);
         QFETCH(QString, told);
-        gammu_stage stage;
-        stage.sign_in();
-        stage.run(sql);
-        stage.start_engine();
+        stage_->run(sql);
+        stage_->start_engine();
         const bool is_fine = told.contains(u"signal");
-        QTRY_VERIFY2(stage.engine->health().text.contains(told),
-                     qPrintable(stage.engine->health().text));
-        QCOMPARE(stage.engine->health().up, is_fine);
+        QTRY_VERIFY2(stage_->engine->health().text.contains(told),
+                     qPrintable(stage_->engine->health().text));
+        QCOMPARE(stage_->engine->health().up, is_fine);
         std::optional<QString> fault;
-        stage.engine->check([&fault](const QString& what) { fault = what; });
+        stage_->engine->check([&fault](const QString& what) { fault = what; });
         QTRY_VERIFY(fault.has_value());
         QVERIFY(is_fine ? fault->isEmpty() : fault->contains(told));
     }
@@ -75,82 +83,68 @@ private slots:
     void recovers() {
         QFETCH(QByteArray, content);
         QFETCH(QString, told);
-        gammu_stage stage;
-        stage.sign_in();
-        stage.start_engine();
-        QTRY_VERIFY(stage.engine->health().up);
-        const QString kept = stage.path(u"kept"_s);
-        QVERIFY(QFile::rename(stage.settings.database, kept));
+        const QString kept = stage_->path(u"kept"_s);
+        QVERIFY(QFile::rename(stage_->settings.database, kept));
         if (!content.isEmpty()) {
-            QFile file(stage.settings.database);
+            QFile file(stage_->settings.database);
             QVERIFY(file.open(QIODevice::WriteOnly));
             file.write(content);
         }
-        QTRY_VERIFY2(stage.engine->health().text.contains(told),
-                     qPrintable(stage.engine->health().text));
-        QVERIFY(!stage.engine->health().up);
-        stage.engine->hand_over({1, u"10086"_s, u"text"_s});
-        QFile::remove(stage.settings.database);
-        QVERIFY(QFile::rename(kept, stage.settings.database));
-        QTRY_COMPARE(queue(stage), QStringList{u"smsgateway/1"_s});
-        QVERIFY(stage.engine->health().up);
+        QTRY_VERIFY2(stage_->engine->health().text.contains(told),
+                     qPrintable(stage_->engine->health().text));
+        QVERIFY(!stage_->engine->health().up);
+        stage_->engine->hand_over({1, u"10086"_s, u"text"_s});
+        QFile::remove(stage_->settings.database);
+        QVERIFY(QFile::rename(kept, stage_->settings.database));
+        QTRY_COMPARE(queue(), QStringList{u"smsgateway/1"_s});
+        QVERIFY(stage_->engine->health().up);
     }
 
     void waits_for_a_lock() {
-        gammu_stage stage;
-        stage.sign_in();
-        stage.start_engine();
-        QTRY_VERIFY(stage.engine->health().up);
         {
-            gateway::gammu_database other(stage.settings);
+            gateway::gammu_database other(stage_->settings);
             other.together([&] {
-                stage.engine->hand_over({1, u"10086"_s, u"text"_s});
-                QTRY_VERIFY(stage.engine->health().text.contains(u"locked"));
+                stage_->engine->hand_over({1, u"10086"_s, u"text"_s});
+                QTRY_VERIFY(stage_->engine->health().text.contains(u"locked"));
             });
         }
-        QTRY_COMPARE(queue(stage), QStringList{u"smsgateway/1"_s});
-        QCOMPARE(stage.sink.settles, 0);
+        QTRY_COMPARE(queue(), QStringList{u"smsgateway/1"_s});
+        QCOMPARE(stage_->sink.settles, 0);
     }
 
     void refuses_what_cannot_be_sent() {
-        gammu_stage stage;
-        stage.sign_in();
-        stage.start_engine();
         const QStringList numbers{{}, u"+"_s, u"BANK"_s, u"1391234567８"_s};
         for (qsizetype i = 0; i < numbers.size(); ++i) {
-            stage.engine->hand_over({i, numbers[i], u"text"_s});
+            stage_->engine->hand_over({i, numbers[i], u"text"_s});
         }
-        stage.engine->hand_over({9, u"10086"_s, QString(1, QChar(u'\0'))});
-        QTRY_COMPARE(stage.sink.settles, 5);
-        for (const auto& outcome : std::as_const(stage.sink.settled)) {
+        stage_->engine->hand_over({9, u"10086"_s, QString(1, QChar(u'\0'))});
+        QTRY_COMPARE(stage_->sink.settles, 5);
+        for (const auto& outcome : std::as_const(stage_->sink.settled)) {
             QVERIFY(outcome.result == handover_result::refused);
         }
-        QVERIFY(queue(stage).isEmpty());
+        QVERIFY(queue().isEmpty());
     }
 
     void reports() {
-        gammu_stage stage;
-        stage.sign_in();
-        stage.start_engine();
-        stage.engine->hand_over({7, u"10086"_s, u"text"_s});
-        QTRY_COMPARE(queue(stage).size(), 1);
-        send(stage, u"SendingOK"_s);
-        QTRY_COMPARE(stage.sink.settles, 1);
-        QVERIFY(stage.sink.settled[7].result == handover_result::accepted);
-        QCOMPARE(stage.sink.settled[7].ref, u"9"_s);
-        stage.sink.keeps = false;
-        stage.run(u"UPDATE sentitems SET Status = 'DeliveryPending'"_s);
-        QTRY_VERIFY(stage.sink.turned_away > 0);
+        stage_->engine->hand_over({7, u"10086"_s, u"text"_s});
+        QTRY_COMPARE(queue().size(), 1);
+        send(u"SendingOK"_s);
+        QTRY_COMPARE(stage_->sink.settles, 1);
+        QVERIFY(stage_->sink.settled[7].result == handover_result::accepted);
+        QCOMPARE(stage_->sink.settled[7].ref, u"9"_s);
+        stage_->sink.keeps = false;
+        stage_->run(u"UPDATE sentitems SET Status = 'DeliveryPending'"_s);
+        QTRY_VERIFY(stage_->sink.turned_away > 0);
         // Told again until it is kept, and once; also by a gateway that was started meanwhile.
         for (int starts = 0; starts < 2; ++starts) {
-            stage.sink.reports.clear();
-            stage.sink.keeps = true;
-            QTRY_COMPARE(stage.sink.reports.size(), 1);
-            QCOMPARE(stage.sink.reports.first().id, 7);
-            QVERIFY(stage.sink.reports.first().what == gateway::fate::buffered);
-            stage.start_engine();
+            stage_->sink.reports.clear();
+            stage_->sink.keeps = true;
+            QTRY_COMPARE(stage_->sink.reports.size(), 1);
+            QCOMPARE(stage_->sink.reports.first().id, 7);
+            QVERIFY(stage_->sink.reports.first().what == gateway::fate::buffered);
+            stage_->start_engine();
         }
-        QTRY_COMPARE(stage.sink.reports.size(), 2);
+        QTRY_COMPARE(stage_->sink.reports.size(), 2);
     }
 
     void asks_data() {
@@ -169,107 +163,97 @@ private slots:
 
     void asks() {
         QFETCH(QString, sql);
-        gammu_stage stage;
-        stage.sign_in();
-        stage.start_engine();
         if (sql != u"never") {
-            stage.engine->hand_over({7, u"10086"_s, u"text"_s});
-            QTRY_COMPARE(queue(stage).size(), 1);
+            stage_->engine->hand_over({7, u"10086"_s, u"text"_s});
+            QTRY_COMPARE(queue().size(), 1);
         }
-        stage.engine.reset();
+        stage_->engine.reset();
         if (sql == u"sent" || sql == u"old") {
-            send(stage, u"SendingOK"_s);
+            send(u"SendingOK"_s);
         } else if (sql == u"refused") {
-            send(stage, u"SendingError"_s);
+            send(u"SendingError"_s);
         } else if (sql == u"died") {
-            take_in_hand(stage, 70, 60);
+            take_in_hand(70, 60);
         } else if (sql == u"restarted") {
-            take_in_hand(stage, 40, 60);
-            stage.run(u"UPDATE phones SET InsertIntoDB = datetime('now', 'localtime')"_s);
+            take_in_hand(40, 60);
+            stage_->run(u"UPDATE phones SET InsertIntoDB = datetime('now', 'localtime')"_s);
         } else if (sql == u"retry") {
-            take_in_hand(stage, 10, 600);
+            take_in_hand(10, 600);
         } else if (sql == u"away") {
-            stage.sign_in(u"-3 minutes"_s);
+            stage_->sign_in(u"-3 minutes"_s);
         }
         if (sql == u"old") {
-            stage.run(u"UPDATE sentitems SET SendingDateTime = '2020-01-01 00:00:00'"_s);
+            stage_->run(u"UPDATE sentitems SET SendingDateTime = '2020-01-01 00:00:00'"_s);
         }
-        stage.start_engine();
-        stage.engine->ask(7);
-        QTRY_COMPARE(stage.sink.settles, 1);
-        QTEST(static_cast<int>(stage.sink.settled[7].result), "result");
+        stage_->start_engine();
+        stage_->engine->ask(7);
+        QTRY_COMPARE(stage_->sink.settles, 1);
+        QTEST(static_cast<int>(stage_->sink.settled[7].result), "result");
         // What the daemon might send again is kept from it, and a person may want it sent again.
         const bool is_held = sql == u"died" || sql == u"restarted";
         QCOMPARE(
-            stage.column(u"SELECT ID FROM outbox WHERE SendingTimeOut > '9999-01-01'"_s).size(),
+            stage_->column(u"SELECT ID FROM outbox WHERE SendingTimeOut > '9999-01-01'"_s).size(),
             is_held ? 1 : 0);
-        stage.engine->hand_over({7, u"10086"_s, u"text"_s});
-        QTRY_COMPARE(queue(stage).size(), sql == u"away" ? 0 : 1);
-        QTRY_VERIFY(
-            stage.column(u"SELECT ID FROM outbox WHERE SendingTimeOut > '9999-01-01'"_s).isEmpty());
+        stage_->engine->hand_over({7, u"10086"_s, u"text"_s});
+        QTRY_COMPARE(queue().size(), sql == u"away" ? 0 : 1);
+        QTRY_VERIFY(stage_->column(u"SELECT ID FROM outbox WHERE SendingTimeOut > '9999-01-01'"_s)
+                        .isEmpty());
     }
 
     void keeps_the_last_of_two_attempts() {
-        gammu_stage stage;
-        stage.sign_in();
-        stage.start_engine();
         for (const QString& status : {u"SendingError"_s, u"SendingOK"_s}) {
-            stage.engine->hand_over({7, u"10086"_s, u"text"_s});
-            QTRY_COMPARE(queue(stage).size(), 1);
-            send(stage, status);
-            QTRY_VERIFY(stage.sink.settled.contains(7));
-            QVERIFY((stage.sink.settled.take(7).result == handover_result::accepted) ==
+            stage_->engine->hand_over({7, u"10086"_s, u"text"_s});
+            QTRY_COMPARE(queue().size(), 1);
+            send(status);
+            QTRY_VERIFY(stage_->sink.settled.contains(7));
+            QVERIFY((stage_->sink.settled.take(7).result == handover_result::accepted) ==
                     (status == u"SendingOK"));
         }
-        stage.start_engine();
-        stage.engine->ask(7);
-        QTRY_VERIFY(stage.sink.settled.contains(7));
-        QVERIFY(stage.sink.settled[7].result == handover_result::accepted);
+        stage_->start_engine();
+        stage_->engine->ask(7);
+        QTRY_VERIFY(stage_->sink.settled.contains(7));
+        QVERIFY(stage_->sink.settled[7].result == handover_result::accepted);
         // Once it has looked again, it has told everything.
-        stage.run(u"INSERT INTO inbox (Text, UDH, RecipientID) VALUES ('0061', '', '')"_s);
-        QTRY_COMPARE(stage.sink.received.size(), 1);
-        for (const gateway::report& told : std::as_const(stage.sink.reports)) {
+        stage_->run(u"INSERT INTO inbox (Text, UDH, RecipientID) VALUES ('0061', '', '')"_s);
+        QTRY_COMPARE(stage_->sink.received.size(), 1);
+        for (const gateway::report& told : std::as_const(stage_->sink.reports)) {
             QVERIFY(told.what == gateway::fate::accepted);
         }
     }
 
     void knows_what_vanished() {
-        gammu_stage stage;
-        stage.sign_in();
-        stage.start_engine();
-        stage.engine->hand_over({7, u"10086"_s, u"text"_s});
-        QTRY_COMPARE(queue(stage).size(), 1);
-        stage.run(u"DELETE FROM outbox"_s);
-        QTRY_COMPARE(stage.sink.settles, 1);
-        stage.start_engine();
-        stage.engine->ask(7);
-        QTRY_COMPARE(stage.sink.settles, 2);
-        QVERIFY(stage.sink.settled[7].result == handover_result::unknown);
+        stage_->engine->hand_over({7, u"10086"_s, u"text"_s});
+        QTRY_COMPARE(queue().size(), 1);
+        stage_->run(u"DELETE FROM outbox"_s);
+        QTRY_COMPARE(stage_->sink.settles, 1);
+        stage_->start_engine();
+        stage_->engine->ask(7);
+        QTRY_COMPARE(stage_->sink.settles, 2);
+        QVERIFY(stage_->sink.settled[7].result == handover_result::unknown);
     }
 
     void leaves_what_is_not_ours() {
-        gammu_stage stage;
-        stage.settings.phone_id = u"b"_s;
-        stage.sign_in();
-        stage.run(u"UPDATE phones SET ID = 'b'"_s);
+        stage_->settings.phone_id = u"b"_s;
+        stage_->run(u"UPDATE phones SET ID = 'b'"_s);
         for (const QString& creator : {u"x"_s, u"smsgateway/1"_s, u"smsgateway/b/x"_s}) {
-            stage.run(
+            stage_->run(
                 u"INSERT INTO outbox (CreatorID, SendingTimeOut) VALUES ('%1', '2020-01-01')"_s.arg(
                     creator));
         }
-        stage.run(
+        stage_->run(
             u"INSERT INTO inbox (Text, UDH, RecipientID, Status) VALUES ('0061', '', 'a', 0), "
             "('0062', '', 'b', 2), ('0063', '', 'b', -1), ('0064', '', 'b', 0)"_s);
-        stage.sink.keeps = false;
-        stage.start_engine();
-        QTRY_VERIFY(stage.sink.turned_away > 0);
-        QCOMPARE(stage.column(u"SELECT ID FROM inbox WHERE Processed = 'true'"_s).size(), 0);
-        stage.sink.keeps = true;
-        QTRY_COMPARE(stage.column(u"SELECT Text FROM inbox WHERE Processed = 'true'"_s),
+        stage_->sink.keeps = false;
+        stage_->start_engine();
+        QTRY_VERIFY(stage_->sink.turned_away > 0);
+        QCOMPARE(stage_->column(u"SELECT ID FROM inbox WHERE Processed = 'true'"_s).size(), 0);
+        stage_->sink.keeps = true;
+        QTRY_COMPARE(stage_->column(u"SELECT Text FROM inbox WHERE Processed = 'true'"_s),
                      (QStringList{u"0063"_s, u"0064"_s}));
-        QCOMPARE(stage.sink.received.size(), 2);
+        QCOMPARE(stage_->sink.received.size(), 2);
         QCOMPARE(
-            stage.column(u"SELECT ID FROM outbox WHERE SendingTimeOut = '2020-01-01'"_s).size(), 3);
+            stage_->column(u"SELECT ID FROM outbox WHERE SendingTimeOut = '2020-01-01'"_s).size(),
+            3);
     }
 };
 
