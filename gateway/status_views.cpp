@@ -106,7 +106,7 @@ QString advice(const gateway_status& status) {
     }
     if (status.unknown > 0) {
         lines +=
-            u"<p>“不知下落”的短信，交给网络时断了，不知道发出去没有，网关不会自己再发。问过客户，要再发一遍的运行 <code>smsgateway resend 编号</code>，不再发的运行 <code>smsgateway drop 编号</code>。</p>\n"_s;
+            u"<p>“不知下落”的短信，交给网络时断了，不知道发出去没有，网关不会自己再发。问过客户，要再发一遍的运行 <code>smsgateway resend 编号</code>，不再发的运行 <code>smsgateway drop 编号</code>（操作手册第 9 节）。</p>\n"_s;
     }
     return lines;
 }
