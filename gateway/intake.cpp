@@ -41,15 +41,16 @@ taking intake::take(const QString& client, const QByteArray& frame, qint64 read_
         }
         all.commit();
     });
+    const bool is_late = clock_.steady() - read_at > latest_answer.count();
     if (!kept) {
-        return {verdict::failed};
+        return is_late ? taking() : taking{verdict::failed};
     }
     lost_.clear();
     if (result.id == 0) {
         return result;
     }
     taken_();
-    if (clock_.steady() - read_at > latest_answer.count()) {
+    if (is_late) {
         leave_open(client, result.id);
         return {};
     }

@@ -16,6 +16,9 @@ namespace gateway {
 
 namespace {
 
+/// The daemon's event loop stands still meanwhile, with every client in it.
+constexpr int daemon_lock_wait_ms = 500;
+
 void make_folder(const QString& folder) {
     const QDir dir(folder);
     if (dir.exists()) {
@@ -43,7 +46,7 @@ store::store(const QString& folder, user who) {
     const QString path = path_in(folder);
     if (who == user::daemon) {
         make_folder(folder);
-        database_ = open_database(path, physical_database::open_mode::create);
+        database_ = open_database(path, physical_database::open_mode::create, daemon_lock_wait_ms);
         lease_ = std::make_unique<exclusive_lease>(path);
         if (!lease_->try_take()) {
             throw DataError(DataError::Kind::locked, texts::tr("another gateway has it open"));
