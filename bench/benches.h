@@ -12,6 +12,8 @@ void bench_search();
 void bench_group_send();
 /// The gateway: how fast it keeps a message, with few and many kept, and its memory.
 void bench_gateway();
+/// A message through the gateway and Kannel, which has to be installed.
+void bench_kannel();
 /// List windows: open, refresh, sort, find.
 void bench_list();
 /// Process start, memory, and wake-ups of an idle client.

@@ -46,6 +46,9 @@ int main(int argc, char* argv[]) {
         if (wanted("gateway")) {
             bench_gateway();
         }
+        if (wanted("kannel")) {
+            bench_kannel();
+        }
         if (wanted("list")) {
             bench_list();
         }

@@ -1,13 +1,19 @@
 #!/usr/bin/env bash
 # Runs the fault tests in their long form, again and again with other chances until the time is up,
-# and adds up what happened. Usage: scripts/soak.sh [MINUTES]; one round at least, 20 to 40 minutes.
+# and adds up what happened; then kills the client, the gateway and the engines' programs while
+# messages go through Kannel and gammu-smsd. Usage: scripts/soak.sh [MINUTES [MESSAGES]]; one round at
+# least, 20 to 40 minutes, and 2,000 messages through every engine under every kind of kill.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
+source scripts/packages.sh
+install_packages python3
+install_engines
 minutes=${1:-60}
+messages=${2:-2000}
 log=build/soak.log
 
 cmake --preset release -Wno-dev
-cmake --build --preset release --target test_faults
+cmake --build --preset release --target test_faults smsgateway
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 QTEST_FUNCTION_TIMEOUT=7200000
 export SMSCRM_FAULTS_SCALE=${SMSCRM_FAULTS_SCALE:-20}
 : >"$log"
@@ -36,4 +42,5 @@ awk -F'|' '
         }
     }' "$log"
 echo "$((SECONDS / 60)) minutes, rounds that failed: $failed"
+scripts/soak_engines.py build/release/bin/smsgateway "$messages" || failed=$((failed + 1))
 exit "$((failed > 0))"

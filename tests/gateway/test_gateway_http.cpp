@@ -56,74 +56,61 @@ class test_gateway_http : public QObject {
     Q_OBJECT
 
 private slots:
-    void reads_requests_data() {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("refusal"); // 0: whole, -1: not yet
-        const auto row = [](const QByteArray& bytes, int refusal) {
-            QTest::newRow(bytes.left(60).simplified().constData()) << bytes << refusal;
-        };
-        row("GET / HTTP/1.1\r\n\r\n", 0);
-        row("HEAD /a?b=c&d=%e4%BD%A0+x HTTP/1.0\r\nHost: x\r\nContent-Length: 0\r\n\r\n", 0);
-        row("GET / HTTP/1.1\r\nHost: x\r\n", -1);
-        row("GET / HTTP/2.0\r\n\r\n", 505);
-        row("GET / FTP/1.1\r\n\r\n", 400);
-        row("GET http://x/ HTTP/1.1\r\n\r\n", 400);
-        row("GET /a b HTTP/1.1\r\n\r\n", 400);
-        row("GET /?a=%4 HTTP/1.1\r\n\r\n", 400);
-        row("GET /?a=%+4 HTTP/1.1\r\n\r\n", 400);
-        row("GET / HTTP/1.1\r\nno colon\r\n\r\n", 400);
-        row("GET / HTTP/1.1\r\nHost : x\r\n\r\n", 400);
-        row("GET / HTTP/1.1\r\nA: b\r\n folded\r\n\r\n", 400);
-        row(QByteArray("GET / HTTP/1.1\r\nA: \0\r\n\r\n", 24), 400);
-        row("POST / HTTP/1.1\r\n\r\n", 405);
-        row("GET / HTTP/1.1\r\nContent-Length: 1\r\n\r\n", 413);
-        row("GET / HTTP/1.1\r\nContent-Length: 0\r\nContent-Length: 0\r\n\r\n", 413);
-        row("GET / HTTP/1.1\r\nTransfer-Encoding: chunked\r\n\r\n", 413);
-        row("GET /" + QByteArray(300, 'x'), 414);
-        row("GET /" + QByteArray(300, 'x') + " HTTP/1.1\r\n\r\n", 414);
-    }
-
     void reads_requests() {
-        QFETCH(QByteArray, bytes);
-        QFETCH(int, refusal);
-        const auto reading = gateway::read_request(bytes, 300);
-        QCOMPARE(reading.refusal, std::max(refusal, 0));
-        QVERIFY(reading.progress == (refusal == 0    ? http_progress::whole
-                                     : refusal == -1 ? http_progress::incomplete
-                                                     : http_progress::broken));
-        if (refusal == 0) {
-            QCOMPARE(reading.size, bytes.size());
-            QCOMPARE(gateway::only_value(reading.request.query, "d").value_or("你 x"), "你 x");
-        }
-    }
-
-    void reads_answers_data() {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("meaning"); // once it ended: status, body, and whether it stays
-        const auto row = [](const QByteArray& bytes, const QString& meaning) {
-            QTest::newRow(bytes.left(60).simplified().constData()) << bytes << meaning;
+        // 0: whole, -1: not yet, else the refusal.
+        const auto reads = [](const QByteArray& bytes, int refusal) {
+            const auto reading = gateway::read_request(bytes, 300);
+            QVERIFY2(reading.refusal == std::max(refusal, 0), bytes.left(60));
+            QVERIFY(reading.progress == (refusal == 0    ? http_progress::whole
+                                         : refusal == -1 ? http_progress::incomplete
+                                                         : http_progress::broken));
+            if (refusal == 0) {
+                QCOMPARE(reading.size, bytes.size());
+                QCOMPARE(gateway::only_value(reading.request.query, "d").value_or("你 x"), "你 x");
+            }
         };
-        row("HTTP/1.0 202 A\r\nContent-Length: 2\r\nConnection: Keep-Alive\r\n\r\n0:", u"202 0:"_s);
-        row("HTTP/1.1 503 A\r\n\r\nuntil the end", u"503 until the end"_s);
-        row("HTTP/1.1 202 A\r\nContent-Length: 3\r\n\r\n0:", u"broken"_s);
-        row("HTTP/1.1 202 A\r\nContent-Length: -2\r\n\r\n0:", u"broken"_s);
-        row("HTTP/1.1 2x2 A\r\n\r\n", u"broken"_s);
-        row("SSH-2.0-OpenSSH\r\n\r\n", u"broken"_s);
-        row("", u"broken"_s);
+        reads("GET / HTTP/1.1\r\n\r\n", 0);
+        reads("HEAD /a?b=c&d=%e4%BD%A0+x HTTP/1.0\r\nHost: x\r\nContent-Length: 0\r\n\r\n", 0);
+        reads("GET / HTTP/1.1\r\nHost: x\r\n", -1);
+        reads("GET / HTTP/2.0\r\n\r\n", 505);
+        reads("GET / FTP/1.1\r\n\r\n", 400);
+        reads("GET http://x/ HTTP/1.1\r\n\r\n", 400);
+        reads("GET /a b HTTP/1.1\r\n\r\n", 400);
+        reads("GET /?a=%4 HTTP/1.1\r\n\r\n", 400);
+        reads("GET /?a=%+4 HTTP/1.1\r\n\r\n", 400);
+        reads("GET / HTTP/1.1\r\nno colon\r\n\r\n", 400);
+        reads("GET / HTTP/1.1\r\nHost : x\r\n\r\n", 400);
+        reads("GET / HTTP/1.1\r\nA: b\r\n folded\r\n\r\n", 400);
+        reads(QByteArray("GET / HTTP/1.1\r\nA: \0\r\n\r\n", 24), 400);
+        reads("POST / HTTP/1.1\r\n\r\n", 405);
+        reads("GET / HTTP/1.1\r\nContent-Length: 1\r\n\r\n", 413);
+        reads("GET / HTTP/1.1\r\nContent-Length: 0\r\nContent-Length: 0\r\n\r\n", 413);
+        reads("GET / HTTP/1.1\r\nTransfer-Encoding: chunked\r\n\r\n", 413);
+        reads("GET /" + QByteArray(300, 'x'), 414);
+        reads("GET /" + QByteArray(300, 'x') + " HTTP/1.1\r\n\r\n", 414);
     }
 
     void reads_answers() {
-        QFETCH(QByteArray, bytes);
-        QFETCH(QString, meaning);
-        for (qsizetype size = 0; size < bytes.size(); ++size) { // never whole too early
-            QVERIFY(gateway::read_answer(bytes.first(size), false).progress !=
-                    http_progress::whole);
-        }
-        const auto reading = gateway::read_answer(bytes, true);
-        QCOMPARE(reading.progress == http_progress::whole
-                     ? u"%1 %2"_s.arg(reading.status).arg(QString::fromUtf8(reading.body))
-                     : u"broken"_s,
-                 meaning);
+        // What an answer means once it ended: status and body.
+        const auto reads = [](const QByteArray& bytes, const QString& meaning) {
+            for (qsizetype size = 0; size < bytes.size(); ++size) { // never whole too early
+                QVERIFY(gateway::read_answer(bytes.first(size), false).progress !=
+                        http_progress::whole);
+            }
+            const auto reading = gateway::read_answer(bytes, true);
+            QCOMPARE(reading.progress == http_progress::whole
+                         ? u"%1 %2"_s.arg(reading.status).arg(QString::fromUtf8(reading.body))
+                         : u"broken"_s,
+                     meaning);
+        };
+        reads("HTTP/1.0 202 A\r\nContent-Length: 2\r\nConnection: Keep-Alive\r\n\r\n0:",
+              u"202 0:"_s);
+        reads("HTTP/1.1 503 A\r\n\r\nuntil the end", u"503 until the end"_s);
+        reads("HTTP/1.1 202 A\r\nContent-Length: 3\r\n\r\n0:", u"broken"_s);
+        reads("HTTP/1.1 202 A\r\nContent-Length: -2\r\n\r\n0:", u"broken"_s);
+        reads("HTTP/1.1 2x2 A\r\n\r\n", u"broken"_s);
+        reads("SSH-2.0-OpenSSH\r\n\r\n", u"broken"_s);
+        reads("", u"broken"_s);
     }
 
     void serves() {
