@@ -5,8 +5,8 @@
 
 #include "app/error_report.h"
 #include "data/c_users.h"
-#include "listview/dialog_buttons.h"
-#include "listview/labelled_box.h"
+#include "listview/forms/dialog_buttons.h"
+#include "listview/forms/form_row.h"
 #include "operators/rsclsuser.h"
 #include "platform/conversion.h"
 #include "platform/widgets/msgbox.h"
@@ -26,16 +26,14 @@ frmLogin::frmLogin(QWidget* parent) : QDialog(parent) {
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     layout->addLayout(form);
     txtUserName =
-        add_labelled_box(*form, u"lblLabels"_s, u"用户名称："_s, u"txtUserName"_s, u"valdrine"_s);
-    txtPassword = add_labelled_box(*form, u"lblLabels"_s, u"口令："_s, u"txtPassword"_s, {});
+        add_line_row(*form, u"lblLabels"_s, u"用户名称："_s, u"txtUserName"_s, u"valdrine"_s).box;
+    txtPassword = add_line_row(*form, u"lblLabels"_s, u"口令："_s, u"txtPassword"_s).box;
     txtPassword->setEchoMode(QLineEdit::Password);
-    add_labelled_box(*form, u"lbldate"_s, u"业务日期："_s, u"txtDate"_s,
-                     QDate::currentDate().toString(u"yyyy-MM-dd"_s));
+    add_line_row(*form, u"lbldate"_s, u"业务日期："_s, u"txtDate"_s,
+                 QDate::currentDate().toString(u"yyyy-MM-dd"_s));
 
-    const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
-    buttons.ok->setObjectName(u"cmdOK"_s);
-    buttons.cancel->setObjectName(u"cmdCancel"_s);
-    connect(buttons.ok, &QPushButton::clicked, this, &frmLogin::cmdOK_Click);
+    const QPushButton* ok = add_buttons(*this, *layout, button_set::confirm);
+    connect(ok, &QPushButton::clicked, this, &frmLogin::cmdOK_Click);
     txtPassword->setFocus();
     setMinimumWidth(fontMetrics().averageCharWidth() * 45);
 }

@@ -4,8 +4,8 @@
 #include "app/frmserver.h"
 
 #include "app/application_title.h"
-#include "listview/dialog_buttons.h"
-#include "listview/labelled_box.h"
+#include "listview/forms/dialog_buttons.h"
+#include "listview/forms/form_row.h"
 #include "platform/database/connection_string.h"
 #include "platform/server_probe.h"
 #include "platform/settings_store.h"
@@ -24,13 +24,12 @@ frmserver::frmserver(QWidget* parent) : QDialog(parent) {
     auto* layout = new QVBoxLayout(this);
     auto* form = new QFormLayout;
     layout->addLayout(form);
-    Text1 = add_labelled_box(
-        *form, u"Label1"_s, u"SQLSERVER名称："_s, u"Text1"_s,
-        settings_store::get(application_title(), settings_section(), u"connection"_s));
-    const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
-    buttons.ok->setObjectName(u"cmdOK"_s);
-    buttons.cancel->setObjectName(u"cmdCancel"_s);
-    connect(buttons.ok, &QPushButton::clicked, this, &frmserver::cmdOK_Click);
+    Text1 =
+        add_line_row(*form, u"Label1"_s, u"SQLSERVER名称："_s, u"Text1"_s,
+                     settings_store::get(application_title(), settings_section(), u"connection"_s))
+            .box;
+    const QPushButton* ok = add_buttons(*this, *layout, button_set::confirm);
+    connect(ok, &QPushButton::clicked, this, &frmserver::cmdOK_Click);
     setMinimumWidth(fontMetrics().averageCharWidth() * 55);
 }
 

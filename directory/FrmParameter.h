@@ -4,7 +4,7 @@
 #pragma once
 
 #include "data/m_parameter.h"
-#include "listview/edit_dialog.h"
+#include "listview/forms/edit_dialog.h"
 
 /// Edits the gateway parameters.
 class FrmParameter : public edit_dialog {

@@ -9,6 +9,6 @@ using namespace Qt::StringLiterals;
 
 frmCusclass::frmCusclass(QWidget* parent) : edit_dialog(u"客户分类"_s, parent) {
     add_number(u"txtMID"_s, u"User ID:"_s, record.ccid);
-    auto* txtText = add_line(u"txtText"_s, u"客户分类："_s, record.cname);
-    finish(*txtText);
+    const auto name = add_line(u"txtText"_s, u"客户分类："_s, record.cname);
+    finish(*name.box);
 }

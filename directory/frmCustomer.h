@@ -4,7 +4,7 @@
 #pragma once
 
 #include "data/m_customer.h"
-#include "listview/edit_dialog.h"
+#include "listview/forms/edit_dialog.h"
 
 /// Edits a customer.
 class frmCustomer : public edit_dialog {

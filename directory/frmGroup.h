@@ -4,9 +4,8 @@
 #pragma once
 
 #include "data/m_group.h"
-#include "listview/edit_dialog.h"
+#include "listview/forms/edit_dialog.h"
 
-class QLineEdit;
 class vc_in;
 
 /// Puts a customer into a class; both are picked and never typed. The names and the mobile are
@@ -19,14 +18,4 @@ public:
 
     /// `classes` and `customers` serve the two picker buttons.
     frmGroup(vc_in& classes, vc_in& customers, QWidget* parent = nullptr);
-
-private:
-    void pick_class(vc_in& classes);
-    void pick_customer(vc_in& customers);
-
-    QLineEdit* txtCcname;
-    QLineEdit* txtccID;
-    QLineEdit* txtcid;
-    QLineEdit* txtcusname;
-    QLineEdit* txtMobile;
 };

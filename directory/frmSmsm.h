@@ -4,7 +4,7 @@
 #pragma once
 
 #include "data/m_smsmodel.h"
-#include "listview/edit_dialog.h"
+#include "listview/forms/edit_dialog.h"
 
 /// Edits a phrase template.
 class frmSmsm : public edit_dialog {

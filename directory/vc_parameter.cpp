@@ -4,7 +4,7 @@
 #include "directory/vc_parameter.h"
 
 #include "directory/FrmParameter.h"
-#include "listview/entity_loops.h"
+#include "listview/forms/entity_loops.h"
 
 #include <QApplication>
 

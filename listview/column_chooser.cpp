@@ -4,7 +4,8 @@
 #include "listview/column_chooser.h"
 
 #include "data/spListHeaders.h"
-#include "listview/dialog_buttons.h"
+#include "listview/forms/dialog_buttons.h"
+#include "listview/forms/form_row.h"
 #include "platform/widgets/msgbox.h"
 
 #include <QComboBox>
@@ -52,10 +53,8 @@ column_chooser::column_chooser(const spListHeaders& headers, const QString& capt
     add_row(u"列名："_s, ComboColName);
     choose_option(0);
 
-    const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
-    buttons.ok->setObjectName(u"cmdOK"_s);
-    buttons.cancel->setObjectName(u"cmdCancel"_s);
-    connect(buttons.ok, &QPushButton::clicked, this, &column_chooser::confirm);
+    const QPushButton* ok = add_buttons(*this, *layout, button_set::confirm);
+    connect(ok, &QPushButton::clicked, this, &column_chooser::confirm);
 }
 
 void column_chooser::showEvent(QShowEvent* event) {
@@ -64,8 +63,7 @@ void column_chooser::showEvent(QShowEvent* event) {
 }
 
 void column_chooser::add_row(const QString& label, QWidget* field) {
-    form_->addRow(label, field);
-    field->setAccessibleName(label);
+    const form_row row(*form_, label, field, u"Label1"_s);
     if (last_field_ != nullptr) {
         setTabOrder(last_field_, field);
     }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "listview/entity_loops.h"
+#include "listview/forms/entity_loops.h"
 #include "listview/frmdatagrid.h"
 #include "listview/vc_in.h"
 

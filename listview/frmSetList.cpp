@@ -4,7 +4,7 @@
 #include "listview/frmSetList.h"
 
 #include "data/spListHeaders.h"
-#include "listview/dialog_buttons.h"
+#include "listview/forms/dialog_buttons.h"
 #include "listview/grid_columns.h"
 #include "platform/guarded.h"
 #include "platform/widgets/data_grid.h"
@@ -53,13 +53,11 @@ frmSetList::frmSetList(spListHeaders& headers, QWidget* parent)
     add_mover(*movers, u"cmdUP"_s, u"向上移动"_s, -1);
     add_mover(*movers, u"cmdDown"_s, u"向下移动"_s, 1);
     movers->addStretch();
-    const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
-    buttons.ok->setObjectName(u"cmdOK"_s);
-    buttons.cancel->setObjectName(u"cmdCancel"_s);
+    const QPushButton* ok = add_buttons(*this, *layout, button_set::confirm);
 
     fill();
     connect(MSHFlexGrid1, &data_grid::toggled, this, guarded([this] { toggle(); }));
-    connect(buttons.ok, &QPushButton::clicked, this, guarded([this] { confirm(); }));
+    connect(ok, &QPushButton::clicked, this, guarded([this] { confirm(); }));
     resize(fontMetrics().averageCharWidth() * 70, fontMetrics().height() * 22);
 }
 

@@ -4,9 +4,9 @@
 #include "listview/frmconduser.h"
 
 #include "data/fmtdatetime.h"
-#include "listview/dialog_buttons.h"
-#include "listview/labelled_box.h"
-#include "listview/picker_button.h"
+#include "listview/forms/dialog_buttons.h"
+#include "listview/forms/form_row.h"
+#include "listview/forms/picker_button.h"
 #include "listview/vc_in.h"
 #include "platform/conversion.h"
 #include "platform/guarded.h"
@@ -25,32 +25,27 @@ frmconduser::frmconduser(operation_condition shown, vc_in& operators, QWidget* p
     auto* form = new QFormLayout;
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     layout->addLayout(form);
-    auto* cmdref = make_picker_button(u"cmdref"_s, u"选择操作员"_s);
-    txtuserid =
-        add_labelled_box(*form, u"lblFieldLabel"_s, u"操作员号："_s, u"txtuserid"_s, {}, cmdref);
-    txtsdate = add_labelled_box(*form, u"lblFieldLabel"_s, u"开始日期："_s, u"txtsdate"_s);
-    txtedate = add_labelled_box(*form, u"lblFieldLabel"_s, u"截止日期："_s, u"txtedate"_s);
-    const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
-    buttons.ok->setObjectName(u"cmdOK"_s);
-    buttons.cancel->setObjectName(u"cmdCancel"_s);
+    const QString name = u"lblFieldLabel"_s;
+    const auto of_user = add_line_row(*form, name, u"操作员号："_s, u"txtuserid"_s);
+    txtuserid = of_user.box;
+    txtsdate = add_line_row(*form, name, u"开始日期："_s, u"txtsdate"_s).box;
+    txtedate = add_line_row(*form, name, u"截止日期："_s, u"txtedate"_s).box;
+    add_picker_button(
+        of_user, u"cmdref"_s, u"选择操作员"_s,
+        [this, &operators] {
+            txtuserid->clear();
+            return operators.Ref();
+        },
+        {{txtuserid, u"userid"_s}}, given_up::empties_them);
+    const QPushButton* ok = add_buttons(*this, *layout, button_set::confirm);
 
     filltext();
-    connect(cmdref, &QPushButton::clicked, this,
-            guarded([this, &operators] { pick_operator(operators); }));
-    connect(buttons.ok, &QPushButton::clicked, this, guarded([this] {
+    connect(ok, &QPushButton::clicked, this, guarded([this] {
                 fillcond(); // a box that cannot be read keeps the dialog open
                 confirmed = true;
                 accept();
             }));
     setMinimumWidth(fontMetrics().averageCharWidth() * 55);
-}
-
-void frmconduser::pick_operator(vc_in& operators) {
-    txtuserid->clear();
-    if (const auto picked = operators.Ref()) {
-        txtuserid->setText(picked->picked(u"userid"_s));
-    }
-    txtuserid->setFocus();
 }
 
 void frmconduser::filltext() {

@@ -22,7 +22,6 @@ public:
     frmconduser(operation_condition shown, vc_in& operators, QWidget* parent = nullptr);
 
 private:
-    void pick_operator(vc_in& operators);
     void filltext();
     /// Reads the boxes. Throws DataError when a date or the number cannot be read.
     void fillcond();

@@ -6,12 +6,12 @@
 #include "data/fmtdatetime.h"
 #include "data/strconn.h"
 #include "data/view_definition.h"
+#include "listview/forms/row_dialog.h"
 #include "listview/frmSetList.h"
 #include "listview/frmSort.h"
 #include "listview/frmconduser.h"
 #include "listview/grid_columns.h"
 #include "listview/list_menu.h"
-#include "listview/row_dialog.h"
 #include "listview/row_export.h"
 #include "listview/vc_in.h"
 #include "platform/conversion.h"
@@ -19,9 +19,9 @@
 #include "platform/guarded.h"
 #include "platform/widgets/data_grid.h"
 #include "platform/widgets/msgbox.h"
+#include "platform/widgets/owner_window.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QDir>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -252,7 +252,7 @@ void frmdatagrid::SetDefault() {
 
 void frmdatagrid::fFilter() {
     if (view_no_ == operation_log_view) {
-        frmconduser dialog(condition_, controller_, QApplication::activeWindow());
+        frmconduser dialog(condition_, controller_, owner_window());
         dialog.exec();
         if (dialog.confirmed) {
             condition_ = dialog.condition;

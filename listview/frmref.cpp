@@ -3,15 +3,16 @@
 
 #include "listview/frmref.h"
 
-#include "listview/dialog_buttons.h"
+#include "listview/forms/dialog_buttons.h"
 #include "listview/grid_columns.h"
 #include "listview/vc_in.h"
 #include "platform/database/recordset.h"
 #include "platform/guarded.h"
 #include "platform/widgets/data_grid.h"
 #include "platform/widgets/msgbox.h"
+#include "platform/widgets/owner_window.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -36,17 +37,14 @@ frmref::frmref(spListHeaders& columns, Recordset& rows, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     add_search_line(*layout);
     layout->addWidget(DataGrid1);
-    const dialog_buttons buttons = add_buttons(*this, *layout, u"确认"_s, u"取消"_s);
-    cmdok = buttons.ok;
-    cmdok->setObjectName(u"cmdok"_s);
-    buttons.cancel->setObjectName(u"cmdcancel"_s);
+    cmdok = add_buttons(*this, *layout, button_set::pick);
 
     apply_view(columns, *DataGrid1);
     DataGrid1->set_recordset(&rows);
     DataGrid1->set_sortable();
     tell_found(true);
     resize(wanted_width(), fontMetrics().height() * 26);
-    connect(buttons.ok, &QPushButton::clicked, this, &frmref::pick);
+    connect(cmdok, &QPushButton::clicked, this, &frmref::pick);
     connect(DataGrid1, &QAbstractItemView::doubleClicked, this, &frmref::pick);
 }
 
@@ -147,7 +145,7 @@ spListHeaders make_picker_columns(const QString& caption, const QString& view_no
 spListHeaders pick_reference(vc_in& controller, spListHeaders columns) {
     Recordset rows;
     controller.openrs(rows);
-    frmref picker(columns, rows, QApplication::activeWindow());
+    frmref picker(columns, rows, owner_window());
     picker.exec();
     return columns;
 }

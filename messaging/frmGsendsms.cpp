@@ -15,25 +15,18 @@ frmGsendsms::frmGsendsms(vc_in& classes, vc_in& phrases, clock_source now, addre
                          QWidget* parent)
     : message_dialog(u"短信群发"_s, std::move(now), parent), count_(std::move(count)) {
     add_number(u"txtGSID"_s, u"User ID:"_s, record.gsid);
-    txtCname = add_line(u"txtCname"_s, u"群组名称："_s, record.cname);
-    txtCid = add_number_beside(*txtCname, u"txtCid"_s, u"分类编号"_s, record.cid);
-    add_picker_button(u"Cmdrefcus"_s, *txtCname, u"选择客户分类"_s,
-                      [this, &classes] { pick_class(classes); });
-    Chkall = add_check(u"Chkall"_s, u"向所有的客户发送？"_s, record.isall);
+    const auto name = add_line(u"txtCname"_s, u"群组名称："_s, record.cname);
+    txtCid = add_beside(name, u"txtCid"_s, u"分类编号"_s, number_of(record.cid));
+    add_picker_button(
+        name, u"Cmdrefcus"_s, u"选择客户分类"_s, [&classes] { return classes.Ref(); },
+        {{txtCid, u"ccid"_s}, {name.box, u"cname"_s}}, given_up::keeps_them);
+    Chkall = add_check(u"Chkall"_s, u"向所有的客户发送？"_s, record.isall).box;
     lblAddressees = add_note(u"lblAddressees"_s);
     connect(txtCid, &QLineEdit::textChanged, this, &frmGsendsms::tell_addressees);
     connect(Chkall, &QCheckBox::toggled, this, &frmGsendsms::tell_addressees);
     tell_addressees();
     add_message_rows(phrases);
-    finish(*txtCname);
-}
-
-void frmGsendsms::pick_class(vc_in& classes) {
-    const auto picked = classes.Ref();
-    if (picked && !picked->picked(u"ccid"_s).isEmpty()) {
-        txtCid->setText(picked->picked(u"ccid"_s));
-        txtCname->setText(picked->picked(u"cname"_s));
-    }
+    finish(*name.box);
 }
 
 std::optional<qint32> frmGsendsms::addressees() const {

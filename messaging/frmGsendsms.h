@@ -23,13 +23,11 @@ public:
                 QWidget* parent = nullptr);
 
 private:
-    void pick_class(vc_in& classes);
     [[nodiscard]] std::optional<qint32> addressees() const;
     void tell_addressees();
 
     addressee_count count_;
     QLineEdit* txtCid;
-    QLineEdit* txtCname;
     QCheckBox* Chkall;
     QLabel* lblAddressees;
 };

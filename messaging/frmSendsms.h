@@ -6,8 +6,6 @@
 #include "data/m_sendsms.h"
 #include "messaging/message_dialog.h"
 
-class QLineEdit;
-
 /// Writes one message: to whom, what, and when.
 class frmSendsms : public message_dialog<m_sendsms> {
     Q_OBJECT
@@ -15,11 +13,4 @@ class frmSendsms : public message_dialog<m_sendsms> {
 public:
     /// `customers` and `phrases` serve the two picker buttons.
     frmSendsms(vc_in& customers, vc_in& phrases, clock_source now, QWidget* parent = nullptr);
-
-private:
-    void pick_customer(vc_in& customers);
-
-    QLineEdit* txtCid;
-    QLineEdit* txtCname;
-    QLineEdit* txtMobile;
 };

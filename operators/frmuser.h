@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "listview/edit_dialog.h"
+#include "listview/forms/edit_dialog.h"
 #include "operators/user.h"
 
 /// Edits an operator; the id is shown and not edited, the passwords are masked.

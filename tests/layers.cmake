@@ -7,7 +7,8 @@ set(platform_may platform)
 set(platform/database_may platform platform/database)
 set(platform/widgets_may ${platform/database_may} platform/widgets)
 set(data_may ${platform/database_may} data)
-set(listview_may ${platform/widgets_may} data listview)
+set(listview/forms_may ${platform/widgets_may} data listview/forms)
+set(listview_may ${listview/forms_may} listview)
 set(directory_may ${listview_may} directory)
 set(messaging_may ${listview_may} messaging)
 set(operators_may ${listview_may} operators)
@@ -19,7 +20,7 @@ set(tools/old_format_may ${tools_may} tools/old_format)
 # The table of all commands.
 set(tools/main.cpp_may ${tools/sheets_may} tools/old_format)
 
-set(screens platform/widgets listview directory messaging operators app)
+set(screens platform/widgets listview/forms listview directory messaging operators app)
 set(system_headers "(sys|arpa|net|netinet)/|(csignal|dirent|dlfcn|fcntl|poll|pthread|signal|spawn|termios|unistd|windows)[.h>]")
 
 # What may stand in some folders alone: a name, the pattern of a line, the folders or files.

@@ -16,6 +16,8 @@ function(plant file line is_seen)
 endfunction()
 
 plant(data/a.h "#include \"listview/vc_in.h\"" TRUE)
+plant(listview/forms/a.h "#include \"listview/vc_in.h\"" TRUE)
+plant(listview/a.h "#include \"listview/forms/form_row.h\"" FALSE)
 plant(platform/a.h "#include \"platform/database/recordset.h\"" TRUE)
 plant(data/a.h "#include \"platform/database/recordset.h\"" FALSE)
 plant(data/a.h "#include <QtWidgets/QWidget>" TRUE)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "listview/frmref.h"
-#include "listview/row_dialog.h"
+#include "listview/forms/row_dialog.h"
 #include "platform/widgets/msgbox.h"
 #include "tests/screens/screen_fixture.h"
 

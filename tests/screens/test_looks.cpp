@@ -10,7 +10,7 @@
 #include "listview/frmSort.h"
 #include "listview/frmconduser.h"
 #include "listview/frmref.h"
-#include "listview/row_dialog.h"
+#include "listview/forms/row_dialog.h"
 #include "operators/frmRights.h"
 #include "operators/frmuser.h"
 #include "tests/screens/screen_fixture.h"

@@ -3,7 +3,7 @@
 
 #include "app/frmMain.h"
 #include "listview/frmdatagrid.h"
-#include "listview/row_dialog.h"
+#include "listview/forms/row_dialog.h"
 #include "platform/widgets/data_grid.h"
 #include "tests/tour/chapters.h"
 #include "tests/tour/guide.h"

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "listview/row_dialog.h"
+#include "listview/forms/row_dialog.h"
 
+#include "listview/forms/form_row.h"
 #include "platform/widgets/data_grid.h"
 
 #include <QDialogButtonBox>
@@ -49,8 +50,7 @@ row_dialog::row_dialog(const data_grid& grid, QWidget* parent) : QDialog(parent)
     for (qsizetype i = 0; i < captions.size(); ++i) {
         const QString label = captions.at(i) + u'：';
         QWidget* box = make_box(texts.at(i), i == widest - columns.begin());
-        box->setAccessibleName(label);
-        form->addRow(label, box);
+        const form_row row(*form, label, box);
         if (i == widest - columns.begin()) {
             box->setFocus(); // the keys scroll it
         }

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "listview/entity_loops.h"
+#include "listview/forms/entity_loops.h"
 
-#include "listview/edit_dialog.h"
+#include "listview/forms/edit_dialog.h"
 
 using namespace Qt::StringLiterals;
 
