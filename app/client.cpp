@@ -23,36 +23,18 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-template <class Screen, class Access>
-void wire(Screen& screen, Access& access) {
-    screen.records = &access;
-    access.connection = strconn;
-}
-
-} // namespace
-
 client::client()
     : windows_(std::make_unique<QMdiArea>()),
       turn_(data_source(strconn)),
-      phrase_screen_(*windows_),
-      class_screen_(*windows_),
-      customer_screen_(*windows_),
-      group_screen_(*windows_, class_screen_, customer_screen_),
-      outgoing_screen_(*windows_, customer_screen_, phrase_screen_),
-      group_send_screen_(*windows_, class_screen_, phrase_screen_),
-      received_screen_(*windows_),
-      operator_screen_(*windows_) {
-    wire(phrase_screen_, phrases_);
-    wire(class_screen_, classes_);
-    wire(customer_screen_, customers_);
-    wire(parameter_screen_, parameters_);
-    wire(group_screen_, groups_);
-    wire(outgoing_screen_, outgoing_);
-    wire(group_send_screen_, group_sends_);
-    wire(received_screen_, received_);
-}
+      phrase_screen_(*windows_, phrases_),
+      class_screen_(*windows_, classes_),
+      customer_screen_(*windows_, customers_),
+      parameter_screen_(parameters_),
+      group_screen_(*windows_, groups_, class_screen_, customer_screen_),
+      outgoing_screen_(*windows_, outgoing_, customer_screen_, phrase_screen_),
+      group_send_screen_(*windows_, group_sends_, class_screen_, phrase_screen_),
+      received_screen_(*windows_, received_),
+      operator_screen_(*windows_) {}
 
 client::~client() = default;
 

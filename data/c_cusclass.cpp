@@ -4,25 +4,26 @@
 #include "data/c_cusclass.h"
 
 #include "data/nvltrim.h"
-#include "data/strconn.h"
 #include "platform/conversion.h"
 
 using namespace Qt::StringLiterals;
 
-void c_cusclass::openrs(Recordset& rs) const {
-    open_detached(rs, u"SELECT ccid, cname From cusclass"_s);
+namespace {
+
+m_cusclass read(const Recordset& rs) {
+    return {.cname = nvltrim(rs.Fields(u"cname"_s)), .ccid = to_int16(rs.Fields(u"ccid"_s))};
 }
+
+} // namespace
+
+c_cusclass::c_cusclass()
+    : table_access({.all = u"SELECT ccid, cname From cusclass",
+                    .one = u"SELECT ccid, cname From cusclass where ccid=%1",
+                    .removal = u"delete from cusclass where ccid=%1",
+                    .read = read}) {}
 
 void c_cusclass::searchsms(const QString& /*text*/, Recordset& rs) const {
     rs.Open(u"SELECT ccid, cname From cusclass\""_s);
-}
-
-std::optional<m_cusclass> c_cusclass::getrec(qint16 ccid) const {
-    return read_one(u"SELECT ccid, cname From cusclass where ccid=%1"_s.arg(literal(ccid)),
-                    [](const Recordset& rs) {
-                        return m_cusclass{.cname = nvltrim(rs.Fields(u"cname"_s)),
-                                          .ccid = to_int16(rs.Fields(u"ccid"_s))};
-                    });
 }
 
 bool c_cusclass::addrec(const QString& cname) const {
@@ -31,8 +32,4 @@ bool c_cusclass::addrec(const QString& cname) const {
 
 bool c_cusclass::updaterec(const QString& cname, qint16 ccid) const {
     return execute(strconn, u"update cusclass set cname=%1 where ccid=%2"_s, cname, ccid);
-}
-
-bool c_cusclass::deleterec(qint16 ccid) const {
-    return execute(strconn, u"delete from cusclass where ccid=%1"_s, ccid);
 }

@@ -4,16 +4,20 @@
 #pragma once
 
 #include "data/m_cusclass.h"
-#include "data/record_access.h"
+#include "data/table_access.h"
 
 /// Customer classes in table `cusclass`.
-class c_cusclass : public record_access {
+class c_cusclass : public table_access<m_cusclass> {
 public:
-    void openrs(Recordset& rs) const;
+    c_cusclass();
+
     /// No controller calls it; its statement ends in a stray quote, so it throws DataError.
     void searchsms(const QString& text, Recordset& rs) const;
-    [[nodiscard]] std::optional<m_cusclass> getrec(qint16 ccid) const;
     [[nodiscard]] bool addrec(const QString& cname) const;
     [[nodiscard]] bool updaterec(const QString& cname, qint16 ccid) const;
-    [[nodiscard]] bool deleterec(qint16 ccid) const;
+
+    [[nodiscard]] bool add(const m_cusclass& one) const { return addrec(one.cname); }
+    [[nodiscard]] bool update(const m_cusclass& one) const {
+        return updaterec(one.cname, one.ccid);
+    }
 };

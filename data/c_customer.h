@@ -4,20 +4,26 @@
 #pragma once
 
 #include "data/m_customer.h"
-#include "data/record_access.h"
+#include "data/table_access.h"
 
 /// Customers in table `customer`.
-class c_customer : public record_access {
+class c_customer : public table_access<m_customer> {
 public:
-    void openrs(Recordset& rs) const;
+    c_customer();
+
     /// Opens all customers, whatever the text.
     void searchsms(const QString& text, Recordset& rs) const;
-    [[nodiscard]] std::optional<m_customer> getrec(qint16 cid) const;
     [[nodiscard]] bool addrec(const QString& birth, const QString& cname, const QString& sex,
                               const QString& mobile, const QString& phone,
                               const QString& memo) const;
     [[nodiscard]] bool updaterec(qint16 cid, const QString& birth, const QString& cname,
                                  const QString& sex, const QString& mobile, const QString& phone,
                                  const QString& memo) const;
-    [[nodiscard]] bool deleterec(qint16 cid) const;
+
+    [[nodiscard]] bool add(const m_customer& one) const {
+        return addrec(one.birth, one.cname, one.sex, one.mobile, one.phone, one.memo);
+    }
+    [[nodiscard]] bool update(const m_customer& one) const {
+        return updaterec(one.cid, one.birth, one.cname, one.sex, one.mobile, one.phone, one.memo);
+    }
 };

@@ -4,29 +4,31 @@
 #include "data/c_group.h"
 
 #include "data/nvltrim.h"
-#include "data/strconn.h"
 #include "platform/conversion.h"
 
 using namespace Qt::StringLiterals;
 
-void c_group::openrs(Recordset& rs) const {
-    open_detached(rs, u"SELECT * From vwgroup order by ccid"_s);
+namespace {
+
+m_group read(const Recordset& rs) {
+    return {.gid = to_int16(rs.Fields(u"gid"_s)),
+            .cid = to_int16(rs.Fields(u"cid"_s)),
+            .ccid = to_int16(rs.Fields(u"ccid"_s)),
+            .cname = nvltrim(rs.Fields(u"cname"_s)),
+            .cusname = nvltrim(rs.Fields(u"cusname"_s)),
+            .mobile = nvltrim(rs.Fields(u"mobile"_s))};
 }
+
+} // namespace
+
+c_group::c_group()
+    : table_access({.all = u"SELECT * From vwgroup order by ccid",
+                    .one = u"SELECT * From vwgroup where gid=%1",
+                    .removal = u"delete from cgroup where gid=%1",
+                    .read = read}) {}
 
 void c_group::searchsms(const QString& /*text*/, Recordset& rs) const {
     rs.Open(u"SELECT * From vwgroup"_s);
-}
-
-std::optional<m_group> c_group::getrec(qint16 gid) const {
-    return read_one(u"SELECT * From vwgroup where gid=%1"_s.arg(literal(gid)),
-                    [](const Recordset& rs) {
-                        return m_group{.gid = to_int16(rs.Fields(u"gid"_s)),
-                                       .cid = to_int16(rs.Fields(u"cid"_s)),
-                                       .ccid = to_int16(rs.Fields(u"ccid"_s)),
-                                       .cname = nvltrim(rs.Fields(u"cname"_s)),
-                                       .cusname = nvltrim(rs.Fields(u"cusname"_s)),
-                                       .mobile = nvltrim(rs.Fields(u"mobile"_s))};
-                    });
 }
 
 bool c_group::addrec(qint16 cid, qint16 ccid) const {
@@ -35,8 +37,4 @@ bool c_group::addrec(qint16 cid, qint16 ccid) const {
 
 bool c_group::updaterec(qint16 gid, qint16 cid, qint16 ccid) const {
     return execute(strconn, u"update cgroup set cid=%2,ccid=%3 where gid=%1"_s, gid, cid, ccid);
-}
-
-bool c_group::deleterec(qint16 gid) const {
-    return execute(strconn, u"delete from cgroup where gid=%1"_s, gid);
 }

@@ -4,17 +4,21 @@
 #pragma once
 
 #include "data/m_group.h"
-#include "data/record_access.h"
+#include "data/table_access.h"
 
-/// Memberships of customers in classes: table `cgroup`, read through view `vwgroup`.
-class c_group : public record_access {
+/// Memberships of customers in classes: table `cgroup`, read through view `vwgroup`. All rows come
+/// ordered by class number.
+class c_group : public table_access<m_group> {
 public:
-    /// Rows come ordered by class number.
-    void openrs(Recordset& rs) const;
+    c_group();
+
     /// Opens all memberships, whatever the text.
     void searchsms(const QString& text, Recordset& rs) const;
-    [[nodiscard]] std::optional<m_group> getrec(qint16 gid) const;
     [[nodiscard]] bool addrec(qint16 cid, qint16 ccid) const;
     [[nodiscard]] bool updaterec(qint16 gid, qint16 cid, qint16 ccid) const;
-    [[nodiscard]] bool deleterec(qint16 gid) const;
+
+    [[nodiscard]] bool add(const m_group& member) const { return addrec(member.cid, member.ccid); }
+    [[nodiscard]] bool update(const m_group& member) const {
+        return updaterec(member.gid, member.cid, member.ccid);
+    }
 };

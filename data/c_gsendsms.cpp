@@ -4,7 +4,6 @@
 #include "data/c_gsendsms.h"
 
 #include "data/nvltrim.h"
-#include "data/strconn.h"
 #include "platform/conversion.h"
 #include "platform/database/connection.h"
 
@@ -19,28 +18,27 @@ QString addressees_of(qint16 cid, qint16 isall) {
                       : u"select cid,mobile from vwgroup where ccid= %1"_s.arg(literal(cid));
 }
 
+m_gsendsms read(const Recordset& rs) {
+    return {.gsid = to_int16(rs.Fields(u"gsid"_s)),
+            .cid = to_int16(rs.Fields(u"cid"_s)),
+            .stime = to_datetime(rs.Fields(u"stime"_s)),
+            .imsend = to_boolean(rs.Fields(u"imsend"_s)),
+            .rtime = to_datetime(rs.Fields(u"rtime"_s)),
+            .cname = nvltrim(rs.Fields(u"cname"_s)),
+            .isall = to_int16(rs.Fields(u"isall"_s)),
+            .sms = {}};
+}
+
 } // namespace
 
-void c_gsendsms::openrs(Recordset& rs) const {
-    open_detached(rs, u"SELECT* From vwgsendsms"_s);
-}
+c_gsendsms::c_gsendsms()
+    : table_access({.all = u"SELECT* From vwgsendsms",
+                    .one = u"SELECT * From vwgsendsms where gsid=%1",
+                    .removal = u"delete from gsendsms where gsid=%1",
+                    .read = read}) {}
 
 void c_gsendsms::searchsms(Recordset& rs) const {
     rs.Open(u"SELECT cid, birth, cname, sex, mobile, phone, memo From customer"_s);
-}
-
-std::optional<m_gsendsms> c_gsendsms::getrec(qint16 gsid) const {
-    return read_one(u"SELECT * From vwgsendsms where gsid=%1"_s.arg(literal(gsid)),
-                    [](const Recordset& rs) {
-                        return m_gsendsms{.gsid = to_int16(rs.Fields(u"gsid"_s)),
-                                          .cid = to_int16(rs.Fields(u"cid"_s)),
-                                          .stime = to_datetime(rs.Fields(u"stime"_s)),
-                                          .imsend = to_boolean(rs.Fields(u"imsend"_s)),
-                                          .rtime = to_datetime(rs.Fields(u"rtime"_s)),
-                                          .cname = nvltrim(rs.Fields(u"cname"_s)),
-                                          .isall = to_int16(rs.Fields(u"isall"_s)),
-                                          .sms = {}};
-                    });
 }
 
 bool c_gsendsms::addrec(const QString& sms, qint16 cid, bool imsend, qint16 isall,
@@ -109,8 +107,4 @@ bool c_gsendsms::updaterec(qint16 gsid, qint16 cid, bool imsend, qint16 isall,
     return execute(
         strconn, u"update gsendsms set cid=%2,imsend=%3,isall=%4,rtime=%5,stime=%6 where gsid=%1"_s,
         gsid, cid, imsend, isall, rtime, stime);
-}
-
-bool c_gsendsms::deleterec(qint16 gsid) const {
-    return execute(strconn, u"delete from gsendsms where gsid=%1"_s, gsid);
 }

@@ -4,7 +4,6 @@
 #include "data/c_parameter.h"
 
 #include "data/nvltrim.h"
-#include "data/strconn.h"
 #include "platform/conversion.h"
 
 using namespace Qt::StringLiterals;

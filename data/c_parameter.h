@@ -14,4 +14,6 @@ public:
     [[nodiscard]] bool addrec(const QString& text) const;
     /// Rewrites every row of the table.
     [[nodiscard]] bool updaterec(const QString& ip, qint16 port) const;
+
+    [[nodiscard]] bool update(const m_parameter& one) const { return updaterec(one.ip, one.port); }
 };

@@ -4,30 +4,32 @@
 #include "data/c_recvedsms.h"
 
 #include "data/nvltrim.h"
-#include "data/strconn.h"
 #include "platform/conversion.h"
 
 using namespace Qt::StringLiterals;
 
-void c_recvedsms::openrs(Recordset& rs) const {
-    open_detached(rs, u"select * From vwrecvedsms"_s);
+namespace {
+
+m_recvedsms read(const Recordset& rs) {
+    return {.smsrid = to_int16(rs.Fields(u"smsrid"_s)),
+            .mobile = nvltrim(rs.Fields(u"mobile"_s)),
+            .sms = nvltrim(rs.Fields(u"sms"_s)),
+            .rtime = to_datetime(rs.Fields(u"rtime"_s)),
+            .readed = to_boolean(rs.Fields(u"readed"_s)),
+            .cname = nvltrim(rs.Fields(u"cname"_s)),
+            .cid = to_int16(rs.Fields(u"cid"_s))};
 }
+
+} // namespace
+
+c_recvedsms::c_recvedsms()
+    : table_access({.all = u"select * From vwrecvedsms",
+                    .one = u"SELECT * from vwrecvedsms where smsrid=%1",
+                    .removal = u"delete from recvedsms where smsrid=%1",
+                    .read = read}) {}
 
 void c_recvedsms::searchsms(Recordset& rs) const {
     rs.Open(u"SELECT cid, birth, cname, sex, mobile, phone, memo From customer"_s);
-}
-
-std::optional<m_recvedsms> c_recvedsms::getrec(qint16 smsrid) const {
-    return read_one(u"SELECT * from vwrecvedsms where smsrid=%1"_s.arg(literal(smsrid)),
-                    [](const Recordset& rs) {
-                        return m_recvedsms{.smsrid = to_int16(rs.Fields(u"smsrid"_s)),
-                                           .mobile = nvltrim(rs.Fields(u"mobile"_s)),
-                                           .sms = nvltrim(rs.Fields(u"sms"_s)),
-                                           .rtime = to_datetime(rs.Fields(u"rtime"_s)),
-                                           .readed = to_boolean(rs.Fields(u"readed"_s)),
-                                           .cname = nvltrim(rs.Fields(u"cname"_s)),
-                                           .cid = to_int16(rs.Fields(u"cid"_s))};
-                    });
 }
 
 bool c_recvedsms::addrec(const QString& mobile, const QString& sms, const QDateTime& rtime,
@@ -39,8 +41,4 @@ bool c_recvedsms::addrec(const QString& mobile, const QString& sms, const QDateT
 
 bool c_recvedsms::updaterec(qint16 smsrid) const {
     return execute(strconn, u"update recvedsms set readed=1 where smsrid=%1"_s, smsrid);
-}
-
-bool c_recvedsms::deleterec(qint16 smsrid) const {
-    return execute(strconn, u"delete from recvedsms where smsrid=%1"_s, smsrid);
 }

@@ -3,13 +3,7 @@
 
 #include "data/c_rights.h"
 
-#include "data/strconn.h"
-
 using namespace Qt::StringLiterals;
-
-c_rights::c_rights() {
-    connection = strconn;
-}
 
 void c_rights::openrs(Recordset& rs, qint32 userid) {
     rs.Open(u"select * from rights where userid=%1"_s.arg(literal(userid)));

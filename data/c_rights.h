@@ -9,8 +9,6 @@
 /// `Functions`, of the database that `strconn` names. Every operation throws DataError.
 class c_rights : public record_access {
 public:
-    c_rights();
-
     /// Opens the rights of an operator, on the connection that the record set has.
     static void openrs(Recordset& rs, qint32 userid);
     /// Opens all functions.

@@ -4,14 +4,32 @@
 #include "data/c_sendsms.h"
 
 #include "data/nvltrim.h"
-#include "data/strconn.h"
 #include "platform/conversion.h"
 
 using namespace Qt::StringLiterals;
 
-void c_sendsms::openrs(Recordset& rs) const {
-    open_detached(rs, u"SELECT * From vwsendsms"_s);
+namespace {
+
+m_sendsms read(const Recordset& rs) {
+    return {.smsid = to_int16(rs.Fields(u"smsid"_s)),
+            .mobile = nvltrim(rs.Fields(u"mobile"_s)),
+            .cid = to_int16(rs.Fields(u"cid"_s)),
+            .sms = nvltrim(rs.Fields(u"sms"_s)),
+            .sendisok = to_boolean(rs.Fields(u"sendisok"_s)),
+            .rtime = to_datetime(rs.Fields(u"rtime"_s)),
+            .stime = to_datetime(rs.Fields(u"stime"_s)),
+            .cname = nvltrim(rs.Fields(u"cname"_s)),
+            .smsfrom = to_boolean(rs.Fields(u"smsfrom"_s)),
+            .imsend = to_boolean(rs.Fields(u"imsend"_s))};
 }
+
+} // namespace
+
+c_sendsms::c_sendsms()
+    : table_access({.all = u"SELECT * From vwsendsms",
+                    .one = u"SELECT * From vwsendsms where smsid=%1",
+                    .removal = u"delete from sendsms where smsid=%1",
+                    .read = read}) {}
 
 void c_sendsms::searchsms(m_sendsmses& queue) const {
     const QDateTime moment = now();
@@ -36,22 +54,6 @@ void c_sendsms::searchsms(m_sendsmses& queue) const {
         take);
 }
 
-std::optional<m_sendsms> c_sendsms::getrec(qint16 smsid) const {
-    return read_one(u"SELECT * From vwsendsms where smsid=%1"_s.arg(literal(smsid)),
-                    [](const Recordset& rs) {
-                        return m_sendsms{.smsid = to_int16(rs.Fields(u"smsid"_s)),
-                                         .mobile = nvltrim(rs.Fields(u"mobile"_s)),
-                                         .cid = to_int16(rs.Fields(u"cid"_s)),
-                                         .sms = nvltrim(rs.Fields(u"sms"_s)),
-                                         .sendisok = to_boolean(rs.Fields(u"sendisok"_s)),
-                                         .rtime = to_datetime(rs.Fields(u"rtime"_s)),
-                                         .stime = to_datetime(rs.Fields(u"stime"_s)),
-                                         .cname = nvltrim(rs.Fields(u"cname"_s)),
-                                         .smsfrom = to_boolean(rs.Fields(u"smsfrom"_s)),
-                                         .imsend = to_boolean(rs.Fields(u"imsend"_s))};
-                    });
-}
-
 bool c_sendsms::addrec(const QString& mobile, qint16 cid, const QString& sms, bool sendisok,
                        const QDateTime& rtime, const QDateTime& stime, bool smsfrom,
                        bool imsend) const {
@@ -65,10 +67,6 @@ bool c_sendsms::updaterec(qint16 smsid, const QString& mobile, qint16 cid, const
                           const QDateTime& stime) const {
     return execute(strconn, u"update sendsms set mobile=%2,sms=%3,cid=%4,stime=%5 where smsid=%1"_s,
                    smsid, mobile, sms, cid, stime);
-}
-
-bool c_sendsms::deleterec(qint16 smsid) const {
-    return execute(strconn, u"delete from sendsms where smsid=%1"_s, smsid);
 }
 
 bool c_sendsms::sended(qint16 smsid) const {

@@ -4,25 +4,26 @@
 #include "data/c_smsm.h"
 
 #include "data/nvltrim.h"
-#include "data/strconn.h"
 #include "platform/conversion.h"
 
 using namespace Qt::StringLiterals;
 
-void c_smsm::openrs(Recordset& rs) const {
-    open_detached(rs, u"SELECT mid, text From smsmodels"_s);
+namespace {
+
+m_smsmodel read(const Recordset& rs) {
+    return {.text = nvltrim(rs.Fields(u"text"_s)), .mid = to_int16(rs.Fields(u"mid"_s))};
 }
+
+} // namespace
+
+c_smsm::c_smsm()
+    : table_access({.all = u"SELECT mid, text From smsmodels",
+                    .one = u"SELECT mid, text From smsmodels where mid=%1",
+                    .removal = u"delete from smsmodels where mid=%1",
+                    .read = read}) {}
 
 void c_smsm::searchsms(const QString& text, Recordset& rs) const {
     rs.Open(u"SELECT mid, text From m_smsmodels where text like %1"_s.arg(literal(text)));
-}
-
-std::optional<m_smsmodel> c_smsm::getrec(qint16 mid) const {
-    return read_one(u"SELECT mid, text From smsmodels where mid=%1"_s.arg(literal(mid)),
-                    [](const Recordset& rs) {
-                        return m_smsmodel{.text = nvltrim(rs.Fields(u"text"_s)),
-                                          .mid = to_int16(rs.Fields(u"mid"_s))};
-                    });
 }
 
 bool c_smsm::addrec(const QString& text) const {
@@ -31,8 +32,4 @@ bool c_smsm::addrec(const QString& text) const {
 
 bool c_smsm::updaterec(const QString& text, qint16 mid) const {
     return execute(strconn, u"update smsmodels set text=%1 where mid=%2"_s, text, mid);
-}
-
-bool c_smsm::deleterec(qint16 mid) const {
-    return execute(strconn, u"delete from smsmodels where mid=%1"_s, mid);
 }

@@ -4,16 +4,20 @@
 #pragma once
 
 #include "data/m_smsmodel.h"
-#include "data/record_access.h"
+#include "data/table_access.h"
 
 /// Phrase templates in table `smsmodels`.
-class c_smsm : public record_access {
+class c_smsm : public table_access<m_smsmodel> {
 public:
-    void openrs(Recordset& rs) const;
+    c_smsm();
+
     /// No controller calls it; its table does not exist, so it throws DataError.
     void searchsms(const QString& text, Recordset& rs) const;
-    [[nodiscard]] std::optional<m_smsmodel> getrec(qint16 mid) const;
     [[nodiscard]] bool addrec(const QString& text) const;
     [[nodiscard]] bool updaterec(const QString& text, qint16 mid) const;
-    [[nodiscard]] bool deleterec(qint16 mid) const;
+
+    [[nodiscard]] bool add(const m_smsmodel& phrase) const { return addrec(phrase.text); }
+    [[nodiscard]] bool update(const m_smsmodel& phrase) const {
+        return updaterec(phrase.text, phrase.mid);
+    }
 };

@@ -4,13 +4,7 @@
 #include "data/c_users.h"
 
 #include "data/nvltrim.h"
-#include "data/strconn.h"
-
 using namespace Qt::StringLiterals;
-
-c_users::c_users() {
-    connection = strconn;
-}
 
 void c_users::openrs(Recordset& rs) const {
     open_detached(rs, u"Users"_s);

@@ -8,8 +8,6 @@
 /// Operators in table `users` of the database that `strconn` names.
 class c_users : public record_access {
 public:
-    c_users();
-
     // These throw DataError.
 
     /// Opens the whole table.

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "data/literals.h"
+#include "data/strconn.h"
 #include "platform/database/recordset.h"
 
 #include <QString>
@@ -16,8 +17,8 @@
 /// answer. A class derived from it holds its statements and its field list.
 class record_access {
 public:
-    /// The database's connection string; set once when the objects are wired.
-    QString connection;
+    /// The database's connection string.
+    QString connection = strconn;
 
 protected:
     record_access() = default;

@@ -10,12 +10,5 @@
 /// Customer classes on the screen.
 class vc_cusclass : public entity_screen<c_cusclass, frmCusclass> {
 public:
-    explicit vc_cusclass(QMdiArea& windows);
-    [[nodiscard]] std::optional<spListHeaders> Ref() override;
-
-protected:
-    [[nodiscard]] std::unique_ptr<frmCusclass> make_dialog() const override;
-    [[nodiscard]] bool validate(frmCusclass& dialog) const override;
-    [[nodiscard]] bool insert(const m_cusclass& added) const override;
-    [[nodiscard]] bool update(const m_cusclass& changed) const override;
+    vc_cusclass(QMdiArea& windows, const c_cusclass& access);
 };

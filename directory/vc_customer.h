@@ -10,12 +10,5 @@
 /// Customers on the screen.
 class vc_customer : public entity_screen<c_customer, frmCustomer> {
 public:
-    explicit vc_customer(QMdiArea& windows);
-    [[nodiscard]] std::optional<spListHeaders> Ref() override;
-
-protected:
-    [[nodiscard]] std::unique_ptr<frmCustomer> make_dialog() const override;
-    [[nodiscard]] bool validate(frmCustomer& dialog) const override;
-    [[nodiscard]] bool insert(const m_customer& added) const override;
-    [[nodiscard]] bool update(const m_customer& changed) const override;
+    vc_customer(QMdiArea& windows, const c_customer& access);
 };

@@ -5,8 +5,7 @@
 
 #include "directory/FrmParameter.h"
 #include "listview/forms/entity_loops.h"
-
-#include <QApplication>
+#include "platform/widgets/owner_window.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,24 +20,20 @@ constexpr entity_messages texts{
 /// The port is a 16-bit number, so only the lower bound can ever refuse one.
 bool validate(FrmParameter& dialog) {
     const int port = dialog.record.port;
-    if (port >= 0 && port <= 65535) {
-        return true;
-    }
-    dialog.refuse(u"txtport"_s, dialog.conversion_refusal());
-    return false;
+    return dialog.require(port >= 0 && port <= 65535, u"txtport"_s, dialog.conversion_refusal());
 }
 
 } // namespace
 
 bool vc_parameter::modifyrec(qint16 /*id*/) {
-    const auto found = records->getrec();
+    const auto found = records.getrec();
     if (!found) {
         report_missing(texts);
         return false;
     }
-    FrmParameter dialog(QApplication::activeWindow());
+    FrmParameter dialog(owner_window());
     dialog.record = *found;
     return edit_loop(
         dialog, texts, [&] { return validate(dialog); },
-        [&] { return records->updaterec(dialog.record.ip, dialog.record.port); });
+        [&] { return records.update(dialog.record); });
 }

@@ -128,7 +128,7 @@ void frmref::pick() {
 }
 
 spListHeaders make_picker_columns(const QString& caption, const QString& view_no,
-                                  std::initializer_list<picker_column> columns) {
+                                  std::span<const picker_column> columns) {
     spListHeaders headers;
     headers.other = u"all"_s;
     headers.vName = caption;

@@ -7,6 +7,8 @@
 
 #include <QDialog>
 
+#include <span>
+
 class data_grid;
 class QBoxLayout;
 class QLabel;
@@ -56,7 +58,7 @@ struct picker_column {
 
 /// Makes the column set of a picker, `Other1` empty.
 [[nodiscard]] spListHeaders make_picker_columns(const QString& caption, const QString& view_no,
-                                                std::initializer_list<picker_column> columns);
+                                                std::span<const picker_column> columns);
 
 /// Shows the controller's rows in a picker and returns the columns with the picked row's values.
 /// Throws DataError.

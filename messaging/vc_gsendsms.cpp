@@ -6,8 +6,6 @@
 #include "platform/widgets/progress_box.h"
 #include "platform/widgets/wait_cursor.h"
 
-#include <QApplication>
-
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -16,45 +14,42 @@ namespace {
 
 constexpr qsizetype long_run = 2000; // messages; fewer are written before a box could be read
 
-constexpr entity_messages texts{
-    .insert_failed = u"输入错误，不能保存短信发送信息，请检查！",
-    .insert_succeeded = u"成功创建一个短信发送信息，继续创建吗？ ",
-    .goes_on = msgbox::answer::no, // some Returns in a row must not send it twice
-    .delete_succeeded = u"成功删除短信发送",
-    .delete_failed = u"不能删除短信发送",
+constexpr entity_description described{
+    .view_no = u"v_gsendsms",
+    .id_column = u"gsid",
+    .messages =
+        {
+            .insert_failed = u"输入错误，不能保存短信发送信息，请检查！",
+            .insert_succeeded = u"成功创建一个短信发送信息，继续创建吗？ ",
+            .goes_on = msgbox::answer::no, // some Returns in a row must not send it twice
+            .delete_succeeded = u"成功删除短信发送",
+            .delete_failed = u"不能删除短信发送",
+        },
 };
+
+bool validate(frmGsendsms& dialog) {
+    return dialog.require(!dialog.record.sms.trimmed().isEmpty(), u"txtSms"_s,
+                          u"输入的短信发送信息错误，必须输入短信，请检查！  "_s);
+}
 
 } // namespace
 
-vc_gsendsms::vc_gsendsms(QMdiArea& windows, vc_in& classes, vc_in& phrases)
-    : entity_screen(windows, u"v_gsendsms", u"gsid", texts), classes_(classes), phrases_(phrases) {}
+vc_gsendsms::vc_gsendsms(QMdiArea& windows, const c_gsendsms& access, vc_in& classes,
+                         vc_in& phrases)
+    : entity_writer(
+          windows, access, described, validate, classes, phrases, system_clock,
+          [&access](qint16 cid, qint16 isall) { return access.count_addressees(cid, isall); }) {}
 
-std::unique_ptr<frmGsendsms> vc_gsendsms::make_dialog() const {
-    return std::make_unique<frmGsendsms>(
-        classes_, phrases_, system_clock,
-        [this](qint16 cid, qint16 isall) { return records->count_addressees(cid, isall); },
-        QApplication::activeWindow());
-}
-
-bool vc_gsendsms::validate(frmGsendsms& dialog) const {
-    if (dialog.record.sms.trimmed().isEmpty()) {
-        dialog.refuse(u"txtSms"_s, u"输入的短信发送信息错误，必须输入短信，请检查！  "_s);
-        return false;
-    }
-    return true;
-}
-
-bool vc_gsendsms::insert(const m_gsendsms& added) const {
+bool vc_gsendsms::add(const m_gsendsms& added) const {
     const wait_cursor waiting;
     std::optional<progress_box> box;
-    if (const qint32 total = records->count_addressees(added.cid, added.isall).value_or(0);
+    if (const qint32 total = records.count_addressees(added.cid, added.isall).value_or(0);
         total > long_run) {
         box.emplace(u"正在写入短信，请稍候……"_s, total);
     }
-    return records->addrec(added.sms, added.cid, added.imsend, added.isall, added.rtime,
-                           added.stime, [&box](qsizetype done) {
-                               if (box) {
-                                   box->report(done);
-                               }
-                           });
+    return records.add(added, [&box](qsizetype done) {
+        if (box) {
+            box->report(done);
+        }
+    });
 }

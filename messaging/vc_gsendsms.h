@@ -4,27 +4,17 @@
 #pragma once
 
 #include "data/c_gsendsms.h"
-#include "data/fmtdatetime.h"
 #include "listview/entity_screen.h"
 #include "messaging/frmGsendsms.h"
 
 /// Group sends on the screen: written, listed and deleted, not edited.
-class vc_gsendsms : public entity_screen<c_gsendsms, frmGsendsms> {
+class vc_gsendsms : public entity_writer<c_gsendsms, frmGsendsms, vc_in&, vc_in&, clock_source,
+                                         frmGsendsms::addressee_count> {
 public:
     /// `classes` and `phrases` are what the edit dialog picks from.
-    vc_gsendsms(QMdiArea& windows, vc_in& classes, vc_in& phrases);
-    bool modifyrec(qint16 /*id*/) override { return false; }
-    [[nodiscard]] bool can(entity_command command) const override {
-        return command != entity_command::modify;
-    }
+    vc_gsendsms(QMdiArea& windows, const c_gsendsms& access, vc_in& classes, vc_in& phrases);
 
 protected:
-    [[nodiscard]] std::unique_ptr<frmGsendsms> make_dialog() const override;
-    [[nodiscard]] bool validate(frmGsendsms& dialog) const override;
-    [[nodiscard]] bool insert(const m_gsendsms& added) const override;
-    [[nodiscard]] bool update(const m_gsendsms& /*changed*/) const override { return false; }
-
-private:
-    vc_in& classes_;
-    vc_in& phrases_;
+    /// A long one shows how far it is.
+    [[nodiscard]] bool add(const m_gsendsms& added) const override;
 };

@@ -5,12 +5,13 @@
 
 namespace {
 
-constexpr entity_messages texts{
-    .delete_succeeded = u"成功删除短信",
-    .delete_failed = u"不能删除短信",
+constexpr entity_description described{
+    .view_no = u"v_recvedsms",
+    .id_column = u"smsrid",
+    .messages = {.delete_succeeded = u"成功删除短信", .delete_failed = u"不能删除短信"},
 };
 
 } // namespace
 
-vc_recvedsms::vc_recvedsms(QMdiArea& windows)
-    : entity_list(windows, u"v_recvedsms", u"smsrid", texts) {}
+vc_recvedsms::vc_recvedsms(QMdiArea& windows, const c_recvedsms& access)
+    : entity_list(windows, access, described) {}

@@ -9,5 +9,5 @@
 /// Received messages on the screen: listed and deleted, never written by hand.
 class vc_recvedsms : public entity_list<c_recvedsms> {
 public:
-    explicit vc_recvedsms(QMdiArea& windows);
+    vc_recvedsms(QMdiArea& windows, const c_recvedsms& access);
 };

@@ -8,22 +8,8 @@
 #include "messaging/frmSendsms.h"
 
 /// Single outgoing messages on the screen: written, listed and deleted, not edited.
-class vc_sendsms : public entity_screen<c_sendsms, frmSendsms> {
+class vc_sendsms : public entity_writer<c_sendsms, frmSendsms, vc_in&, vc_in&, clock_source> {
 public:
     /// `customers` and `phrases` are what the edit dialog picks from.
-    vc_sendsms(QMdiArea& windows, vc_in& customers, vc_in& phrases);
-    bool modifyrec(qint16 /*id*/) override { return false; }
-    [[nodiscard]] bool can(entity_command command) const override {
-        return command != entity_command::modify;
-    }
-
-protected:
-    [[nodiscard]] std::unique_ptr<frmSendsms> make_dialog() const override;
-    [[nodiscard]] bool validate(frmSendsms& dialog) const override;
-    [[nodiscard]] bool insert(const m_sendsms& added) const override;
-    [[nodiscard]] bool update(const m_sendsms& /*changed*/) const override { return false; }
-
-private:
-    vc_in& customers_;
-    vc_in& phrases_;
+    vc_sendsms(QMdiArea& windows, const c_sendsms& access, vc_in& customers, vc_in& phrases);
 };

@@ -5,16 +5,23 @@
 
 #include "data/c_users.h"
 #include "data/nvltrim.h"
+#include "listview/forms/entity_loops.h"
 #include "operators/frmuser.h"
 #include "operators/rsclsuser.h"
 #include "platform/database/recordset.h"
 #include "platform/widgets/msgbox.h"
-
-#include <QApplication>
+#include "platform/widgets/owner_window.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// Inserting and updating tell their failures themselves.
+constexpr entity_messages texts{
+    .insert_succeeded = u"成功创建一个新的用户，是否继续? ",
+    .insert_succeeded_title = u"创建成功",
+    .update_succeeded = u"成功修改了用户的信息",
+};
 
 bool tell_failure(bool saved) {
     if (!saved) {
@@ -45,38 +52,31 @@ void tell_session_user(const user& changed, qint32 id) {
 } // namespace
 
 bool usermaintain::adduser() {
-    frmuser dialog(QApplication::activeWindow());
-    while (dialog.ask()) {
-        if (!checkuser(dialog) || !insertuser(dialog)) {
-            continue;
-        }
-        if (!msgbox::yes_no(u"成功创建一个新的用户，是否继续? "_s, u"创建成功"_s)) {
-            return true;
-        }
-        dialog.begin_anew();
-    }
-    return false;
+    frmuser dialog(owner_window());
+    return add_loop(
+        dialog, texts, [&] { return checkuser(dialog); }, [&] { return insertuser(dialog); });
 }
 
 bool usermaintain::modifyuser(qint32 id, const QString& first_box) {
     try {
-        frmuser dialog(QApplication::activeWindow());
+        frmuser dialog(owner_window());
         dialog.begin_in(first_box);
         if (!read_user(dialog, id)) {
             msgbox::information(u"不能修改已经存在的用户"_s, u"修改错误"_s);
             return false;
         }
-        while (dialog.ask()) {
-            if (checkuser(dialog) && updateuser(dialog)) {
-                tell_session_user(dialog.record, id);
-                msgbox::information(u"成功修改了用户的信息"_s, u"保存成功"_s);
-                return true;
-            }
-        }
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
-        // An operator that cannot be read is not changed; there is no message for it.
+        return edit_loop(
+            dialog, texts, [&] { return checkuser(dialog); },
+            [&] {
+                const bool saved = updateuser(dialog);
+                if (saved) {
+                    tell_session_user(dialog.record, id);
+                }
+                return saved;
+            });
+    } catch (const std::exception&) {
+        return false; // an operator that cannot be read is not changed; there is no message for it
     }
-    return false;
 }
 
 bool usermaintain::deleteuser(qint32 id) {
@@ -89,15 +89,10 @@ bool usermaintain::deleteuser(qint32 id) {
 }
 
 bool usermaintain::checkuser(frmuser& dialog) {
-    if (nvltrim(dialog.record.username).isEmpty()) {
-        dialog.refuse(u"txtUserName"_s, u"用户名称输入错误请检查！"_s);
-        return false;
-    }
-    if (dialog.record.password != dialog.record.conpass) {
-        dialog.refuse(u"txtconpass"_s, u"用户口令输入错误！ "_s);
-        return false;
-    }
-    return true;
+    return dialog.require(!nvltrim(dialog.record.username).isEmpty(), u"txtUserName"_s,
+                          u"用户名称输入错误请检查！"_s) &&
+           dialog.require(dialog.record.password == dialog.record.conpass, u"txtconpass"_s,
+                          u"用户口令输入错误！ "_s);
 }
 
 bool usermaintain::insertuser(const frmuser& dialog) {

@@ -3,15 +3,21 @@
 
 #include "operators/vc_users.h"
 
-#include "listview/frmdatagrid.h"
-#include "listview/frmref.h"
 #include "operators/usermaintain.h"
 
-using namespace Qt::StringLiterals;
+namespace {
 
-void vc_users::listall() {
-    open_list_window(windows_, *this, u"VUsers"_s);
-}
+constexpr picker_column picker_columns[]{{u"userid", u"编号", 900},
+                                         {u"username", u"操作员名称", 3000}};
+
+constexpr entity_description described{.view_no = u"VUsers",
+                                       .id_column = u"userid",
+                                       .picker_caption = u"操作员列表",
+                                       .picker_columns = picker_columns};
+
+} // namespace
+
+vc_users::vc_users(QMdiArea& windows) : list_screen(windows, described) {}
 
 bool vc_users::createrec() {
     return usermaintain::adduser();
@@ -27,14 +33,4 @@ bool vc_users::deleterec(qint16 id) {
 
 void vc_users::openrs(Recordset& rs) {
     usermaintain::Userrs(rs);
-}
-
-QString vc_users::getidstring() const {
-    return u"userid"_s;
-}
-
-std::optional<spListHeaders> vc_users::Ref() {
-    return pick_reference(*this, make_picker_columns(u"操作员列表"_s, u"VUsers"_s,
-                                                     {{u"userid", u"编号", 900},
-                                                      {u"username", u"操作员名称", 3000}}));
 }

@@ -3,24 +3,16 @@
 
 #pragma once
 
-#include "listview/vc_in.h"
-
-class QMdiArea;
+#include "listview/list_screen.h"
 
 /// The operator list on the screen, over operator maintenance.
-class vc_users : public vc_in {
+class vc_users : public list_screen {
 public:
-    explicit vc_users(QMdiArea& windows) : windows_(windows) {}
+    explicit vc_users(QMdiArea& windows);
 
-    void listall() override;
     bool createrec() override;
     bool modifyrec(qint16 id) override;
     bool deleterec(qint16 id) override;
     void openrs(Recordset& rs) override;
-    void search(const QVariant& /*column*/, const QVariant& /*value*/) override {}
-    [[nodiscard]] QString getidstring() const override;
-    [[nodiscard]] std::optional<spListHeaders> Ref() override;
-
-private:
-    QMdiArea& windows_;
+    [[nodiscard]] bool can(entity_command /*command*/) const override { return true; }
 };

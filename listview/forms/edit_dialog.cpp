@@ -62,6 +62,13 @@ void edit_dialog::refuse(const QString& box, const QString& text) {
     text_box::select_nothing(refused);
 }
 
+bool edit_dialog::require(bool condition, const QString& box, const QString& text) {
+    if (!condition) {
+        refuse(box, text);
+    }
+    return condition;
+}
+
 template <class Box>
 row_with<Box> edit_dialog::add_row(const QString& name, const QString& label, Box* box) {
     box->setObjectName(name);

@@ -34,6 +34,8 @@ public:
     void begin_in(const QString& box);
     /// Tells why the record cannot be saved, and puts the keyboard into the box that this is about.
     void refuse(const QString& box, const QString& text);
+    /// Refuses unless the condition holds, and returns it.
+    [[nodiscard]] bool require(bool condition, const QString& box, const QString& text);
 
 protected:
     edit_dialog(const QString& caption, QWidget* parent);

@@ -7,6 +7,16 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+void tell_failure(QStringView text, const QString& title) {
+    if (!text.isEmpty()) {
+        msgbox::information(text.toString(), title);
+    }
+}
+
+} // namespace
+
 bool add_loop(edit_dialog& dialog, const entity_messages& messages, const record_step& check,
               const record_step& insert) {
     while (dialog.ask()) {
@@ -14,9 +24,9 @@ bool add_loop(edit_dialog& dialog, const entity_messages& messages, const record
             continue;
         }
         if (!insert()) {
-            msgbox::information(messages.insert_failed.toString(), u"不能保存 "_s);
-        } else if (msgbox::yes_no(messages.insert_succeeded.toString(), u"保存成功"_s,
-                                  messages.goes_on)) {
+            tell_failure(messages.insert_failed, u"不能保存 "_s);
+        } else if (msgbox::yes_no(messages.insert_succeeded.toString(),
+                                  messages.insert_succeeded_title.toString(), messages.goes_on)) {
             dialog.begin_anew();
         } else {
             return true;
@@ -35,7 +45,7 @@ bool edit_loop(edit_dialog& dialog, const entity_messages& messages, const recor
             msgbox::information(messages.update_succeeded.toString(), u"保存成功"_s);
             return true;
         }
-        msgbox::information(messages.update_failed.toString(), u"不成功"_s);
+        tell_failure(messages.update_failed, u"不成功"_s);
     }
     return false;
 }

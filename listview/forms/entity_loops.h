@@ -11,11 +11,12 @@
 
 class edit_dialog;
 
-/// What an entity's screens say, as far as they can do it; the titles are the same for all
-/// entities.
+/// What an entity's screens say, as far as they can do it. A failure without a text is told by the
+/// step that failed.
 struct entity_messages {
     QStringView insert_failed = {};
-    QStringView insert_succeeded = {};            ///< asks whether to go on
+    QStringView insert_succeeded = {}; ///< asks whether to go on
+    QStringView insert_succeeded_title = u"保存成功";
     msgbox::answer goes_on = msgbox::answer::yes; ///< what Enter answers to that
     QStringView record_missing = {};
     QStringView update_failed = {};

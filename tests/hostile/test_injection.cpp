@@ -122,7 +122,7 @@ struct stage : screen_fixture {
     }
 
     bool is_no_filter(text t) {
-        vc_smsm any(area);
+        vc_smsm any(area, phrases);
         frmconduser dialog({.userid = 0, .start = now, .end = now}, any);
         fill_in(dialog, {{u"txtsdate"_s, t}}, true);
         return !dialog.confirmed;

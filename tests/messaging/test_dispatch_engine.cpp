@@ -271,7 +271,8 @@ private slots:
 
     void keeps_no_more_than_memory_is_to_be_spent_on() {
         const stage s;
-        c_recvedsms received; // of no database
+        c_recvedsms received;
+        received.connection.clear(); // of no database
         unwritten_answers answers(s.outgoing, received);
         for (int i = 0; i < 20; ++i) {
             static_cast<void>(answers.store({u"1"_s, s.clock, QString(1 << 20, u'x')}));

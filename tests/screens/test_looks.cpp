@@ -5,12 +5,12 @@
 #include "app/frmLogin.h"
 #include "app/frmserver.h"
 #include "directory/FrmParameter.h"
+#include "listview/forms/row_dialog.h"
 #include "listview/frmFind.h"
 #include "listview/frmSetList.h"
 #include "listview/frmSort.h"
 #include "listview/frmconduser.h"
 #include "listview/frmref.h"
-#include "listview/forms/row_dialog.h"
 #include "operators/frmRights.h"
 #include "operators/frmuser.h"
 #include "tests/screens/screen_fixture.h"
@@ -130,9 +130,10 @@ private slots:
             check_texts(list);
         }
 
-        spListHeaders columns = make_picker_columns(u"常用语"_s, {}, {{u"mid", u"编号", 900}});
+        const picker_column number{u"mid", u"编号", 900};
+        spListHeaders columns = make_picker_columns(u"常用语"_s, {}, {&number, 1});
         Recordset rows;
-        vc_parameter none;
+        vc_in none;
         const auto check = [](auto&&... dialogs) { (check_dialog(std::move(dialogs)), ...); };
         check(frmSmsm(), frmCustomer(), FrmParameter(), frmCusclass(), frmGroup(none, none),
               frmGsendsms(none, none, system_clock, [](auto, auto) { return 0; }),
