@@ -3,13 +3,11 @@
 
 #include "listview/frmdatagrid.h"
 
-#include "data/fmtdatetime.h"
 #include "data/strconn.h"
 #include "data/view_definition.h"
 #include "listview/forms/row_dialog.h"
 #include "listview/frmSetList.h"
 #include "listview/frmSort.h"
-#include "listview/frmconduser.h"
 #include "listview/grid_columns.h"
 #include "listview/list_menu.h"
 #include "listview/row_export.h"
@@ -19,7 +17,6 @@
 #include "platform/guarded.h"
 #include "platform/widgets/data_grid.h"
 #include "platform/widgets/msgbox.h"
-#include "platform/widgets/owner_window.h"
 
 #include <QAction>
 #include <QDir>
@@ -34,8 +31,7 @@ using namespace Qt::StringLiterals;
 
 frmdatagrid::frmdatagrid(vc_in& controller, QString view_no, QWidget* parent)
     : QWidget(parent),
-      controller_(controller),
-      view_no_(std::move(view_no)),
+      source_(controller, std::move(view_no)),
       Toolbar1(new QToolBar(this)),
       DataGrid1(new data_grid(this)),
       rows_(*DataGrid1, controller.getidstring()) {
@@ -94,7 +90,7 @@ void frmdatagrid::build_tools() {
     for (QAction* button : Toolbar1->actions()) {
         const list_command wanted = commands().value(button->objectName());
         button->setEnabled(wanted.run != nullptr &&
-                           (!wanted.needs || controller_.can(*wanted.needs)));
+                           (!wanted.needs || source_.controller().can(*wanted.needs)));
     }
     add_list_menu(*DataGrid1, *Toolbar1,
                   {.show_row = [this] { show_row(); },
@@ -114,7 +110,7 @@ void frmdatagrid::run_and_refresh(const std::function<void()>& command, const QS
 
 void frmdatagrid::faddnew() {
     const qint64 last = rows_.highest_key(); // the insertion does not tell the new one
-    run_and_refresh([this] { controller_.createrec(); }, u"不能创建图形资料！"_s);
+    run_and_refresh([this] { source_.controller().createrec(); }, u"不能创建图形资料！"_s);
     rows_.mark_newer_than(last);
 }
 
@@ -129,7 +125,7 @@ void frmdatagrid::fdelete() {
 void frmdatagrid::run_on_marked_row(bool (vc_in::*command)(qint16), const QString& failure) {
     DataGrid1->show_marked_row();
     DataGrid1->viewport()->repaint(); // it is seen before any box or dialog comes up
-    run_and_refresh([this, command] { (controller_.*command)(current_id()); }, failure);
+    run_and_refresh([this, command] { (source_.controller().*command)(current_id()); }, failure);
 }
 
 void frmdatagrid::open_row() {
@@ -228,7 +224,7 @@ void frmdatagrid::SetField() {
 
 void frmdatagrid::FsaveLayout() {
     take_widths(headers_, *DataGrid1);
-    save_view(headers_, strconn, view_no_);
+    save_view(headers_, strconn, source_.view_no());
     note(u"列表的样子已经保存"_s);
 }
 
@@ -246,33 +242,21 @@ void frmdatagrid::note(const QString& done) {
 }
 
 void frmdatagrid::SetDefault() {
-    const QDate today = system_clock().date();
-    condition_ = {.userid = 0, .start = today.startOfDay(), .end = today.endOfDay()};
+    source_.reset_condition();
 }
 
 void frmdatagrid::fFilter() {
-    if (view_no_ == operation_log_view) {
-        frmconduser dialog(condition_, controller_, owner_window());
-        dialog.exec();
-        if (dialog.confirmed) {
-            condition_ = dialog.condition;
-        }
-        store_condition(headers_, condition_);
-    }
+    source_.ask_condition(headers_);
     fRefresh();
 }
 
 void frmdatagrid::updateField() {
-    load_view(headers_, strconn, view_no_);
+    load_view(headers_, strconn, source_.view_no());
     apply_view(headers_, *DataGrid1);
 }
 
 bool frmdatagrid::ResetCond(const spListHeaders& headers, Recordset& rows) {
-    if (view_no_ == operation_log_view) {
-        open_operation_log(headers, rows);
-    } else {
-        controller_.openrs(rows);
-    }
+    source_.open(headers, rows);
     return true;
 }
 
@@ -283,7 +267,7 @@ QString frmdatagrid::value(const QString& column_key) const {
 
 qint16 frmdatagrid::current_id() const {
     // On an empty list the key is that of a record not stored; the controller answers for it.
-    return DataGrid1->row() < 0 ? qint16{0} : to_int16(value(controller_.getidstring()));
+    return DataGrid1->row() < 0 ? qint16{0} : to_int16(value(source_.controller().getidstring()));
 }
 
 void frmdatagrid::close_window() {

@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "data/operation_log.h"
 #include "data/spListHeaders.h"
 #include "listview/frmFind.h"
 #include "listview/list_rows.h"
+#include "listview/list_source.h"
 #include "listview/toolbar_builder.h"
 
 #include <QWidget>
@@ -57,7 +57,7 @@ public:
     /// column.
     [[nodiscard]] QString value(const QString& column_key) const;
 
-    [[nodiscard]] const vc_in& controller() const { return controller_; }
+    [[nodiscard]] const vc_in& controller() const { return source_.controller(); }
     /// Which row is marked and of how many; and what was done last, if it shows nowhere else.
     [[nodiscard]] QString status() const;
 
@@ -90,13 +90,11 @@ private:
     void close_window();
     [[nodiscard]] qint16 current_id() const;
 
-    vc_in& controller_;
-    QString view_no_;
+    list_source source_;
     spListHeaders headers_;
     search_request search_; ///< the last one
     QString note_;          ///< what was done last
     bool unreadable_ = false;
-    operation_condition condition_; ///< of the operation log alone
     image_list imlToolbarIcons;
     QToolBar* Toolbar1;
     data_grid* DataGrid1;
