@@ -80,7 +80,7 @@ bool usermaintain::modifyuser(qint32 id, const QString& first_box) {
 }
 
 bool usermaintain::deleteuser(qint32 id) {
-    if (!c_users().deleterec(id)) {
+    if (id == 0 || !c_users().deleterec(id)) { // an empty list has none to delete
         msgbox::information(u"不能删除操作员，编号为:"_s + QString::number(id), u"删除错误"_s);
         return false;
     }
