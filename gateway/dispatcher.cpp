@@ -71,7 +71,7 @@ void dispatcher::end(std::function<void()> ended) {
     ending_ = true;
     run_->stop();
     ended_ = clock_.make_alarm(std::move(ended));
-    ended_->set(under_way_.isEmpty() ? 0ms : last_outcomes);
+    ended_->set(under_way_.isEmpty() && outcomes_.isEmpty() ? 0ms : last_outcomes);
 }
 
 void dispatcher::health_changed() {
@@ -95,6 +95,7 @@ void dispatcher::run() {
 
 void dispatcher::hand_over_due() {
     if (room() <= 0) {
+        waiting_for_room_ = true;
         return;
     }
     QList<message_row> due;
@@ -106,17 +107,20 @@ void dispatcher::hand_over_due() {
             return;
         }
         transaction all(store_.database());
+        write_outcomes(); // one sync for both
         // A person may have dropped one meanwhile.
         due.removeIf([this, now](const auto& row) { return !rows_.begin(row.id, now); });
         all.commit();
     });
-    if (!begun) {
+    if (!begun || due.isEmpty()) {
         return;
     }
+    forget_outcomes();
     for (const message_row& row : due) {
         under_way_.insert(row.id);
         network_.hand_over({row.id, row.number, row.text});
     }
+    waiting_for_room_ = room() <= 0;
 }
 
 void dispatcher::ask_for_unknown() {
@@ -158,12 +162,17 @@ void dispatcher::wait_for_next() {
 }
 
 void dispatcher::settle(message_id id, const handover& outcome) {
-    if (!under_way_.contains(id)) {
+    if (!under_way_.remove(id)) {
         return;
     }
     outcomes_.append({id, outcome});
     if (!keep_->is_set()) {
         keep_->set(gathering);
+    }
+    if (waiting_for_room_ && !ending_) {
+        waiting_for_room_ = false;
+        waiting_long_ = false;
+        run_->set(0ms);
     }
 }
 
@@ -173,23 +182,29 @@ void dispatcher::keep_outcomes() {
     }
     const bool kept = try_store([this] {
         transaction all(store_.database());
-        for (const auto& [id, outcome] : std::as_const(outcomes_)) {
-            keep_outcome(id, outcome);
-        }
+        write_outcomes();
         all.commit();
     });
     if (!kept) {
         keep_->set(store_pause);
         return;
     }
+    forget_outcomes();
+    wake();
+}
+
+void dispatcher::write_outcomes() {
     for (const auto& [id, outcome] : std::as_const(outcomes_)) {
-        under_way_.remove(id);
+        keep_outcome(id, outcome);
     }
+}
+
+void dispatcher::forget_outcomes() {
     outcomes_.clear();
+    keep_->stop();
     if (ending_ && under_way_.isEmpty()) {
         ended_->set(0ms);
     }
-    wake();
     received_.look();
 }
 

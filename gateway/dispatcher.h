@@ -40,6 +40,8 @@ private:
     void wait_for_next();
     [[nodiscard]] int room() const;
     void keep_outcomes();
+    void write_outcomes();
+    void forget_outcomes();
     void keep_outcome(message_id id, const handover& outcome);
     [[nodiscard]] message_change change_for(const message_row& row, const handover& outcome,
                                             qint64 now) const;
@@ -56,7 +58,8 @@ private:
     std::unique_ptr<alarm> run_;
     std::unique_ptr<alarm> keep_;
     std::unique_ptr<alarm> ended_;
-    bool waiting_long_ = false; ///< for a message's moment: what comes meanwhile goes before
+    bool waiting_for_room_ = false; ///< goes on as soon as something is settled
+    bool waiting_long_ = false;     ///< for a message's moment: what comes meanwhile goes before
     bool ending_ = false;
 };
 
