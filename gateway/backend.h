@@ -29,6 +29,11 @@ public:
     [[nodiscard]] virtual bool take(const incoming_message& message) = 0;
     [[nodiscard]] virtual bool take(const incoming_part& part) = 0;
 
+    /// Keeps all that `work` brings in one go, which is much faster: true when that happened. On
+    /// false, when `work` said so or the store could not be written, nothing of it is kept,
+    /// whatever the sink said within.
+    [[nodiscard]] virtual bool take_together(const std::function<bool()>& work) = 0;
+
     /// backend::health() tells something else from now on.
     virtual void health_changed() = 0;
 };

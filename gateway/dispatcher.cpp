@@ -242,7 +242,7 @@ message_change dispatcher::change_for(const message_row& row, const handover& ou
 
 bool dispatcher::take(const report& told) {
     const bool kept = try_store([&] {
-        transaction all(store_.database());
+        joined_transaction all(store_.database());
         const qint64 now = clock_.now();
         const auto row = rows_.find(told.id);
         if (row && rows_.note(told.id, name_of(told.what), told.ref, told.reason, now)) {
@@ -272,6 +272,19 @@ void dispatcher::tell_failure(const message_row& row, fate told, failure_cause c
                                  .text = failure_notice(row.text, told, cause)},
                                 row.mobile);
     }
+}
+
+bool dispatcher::take_together(const std::function<bool()>& work) {
+    bool taken = false;
+    const bool kept = try_store([&] {
+        transaction all(store_.database());
+        taken = work();
+        if (taken) {
+            all.commit();
+        }
+    });
+    received_.look();
+    return kept && taken;
 }
 
 bool dispatcher::take(const incoming_message& message) {

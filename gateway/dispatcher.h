@@ -31,6 +31,7 @@ public:
     [[nodiscard]] bool take(const report& told) override;
     [[nodiscard]] bool take(const incoming_message& message) override;
     [[nodiscard]] bool take(const incoming_part& part) override;
+    [[nodiscard]] bool take_together(const std::function<bool()>& work) override;
     void health_changed() override;
 
 private:

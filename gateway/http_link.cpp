@@ -23,8 +23,7 @@ constexpr qint64 max_unread = 262'144;
 
 } // namespace
 
-http_link::http_link(QTcpSocket* socket, http_handler handler, QObject* parent)
-    : QObject(parent), socket_(socket), handler_(std::move(handler)) {
+http_link::http_link(QTcpSocket* socket, QObject* parent) : QObject(parent), socket_(socket) {
     socket_->setParent(this);
     socket_->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     socket_->setReadBufferSize(http_server::max_request);
@@ -45,7 +44,7 @@ void http_link::read() {
         drain();
         return;
     }
-    if (socket_->bytesToWrite() >= max_unread) {
+    if (asking_ || socket_->bytesToWrite() >= max_unread) {
         return;
     }
     const QByteArray news = socket_->read(http_server::max_request - buffer_.size());
@@ -53,12 +52,7 @@ void http_link::read() {
     if (!news.isEmpty()) {
         emit heard();
     }
-    const bool served = serve_next();
-    if (served && (!buffer_.isEmpty() || socket_->bytesAvailable() > 0)) {
-        // One at a time, so that a heap of requests does not hold up the rest of the gateway.
-        QMetaObject::invokeMethod(this, &http_link::read, Qt::QueuedConnection);
-    }
-    watch(served);
+    watch(serve_next());
 }
 
 void http_link::watch(bool served) {
@@ -85,13 +79,24 @@ bool http_link::serve_next() {
         break;
     }
     buffer_.remove(0, reading.size);
-    const http_request& request = reading.request;
-    socket_->write(response_bytes(handler_(request), request.head_only, request.stays_open));
-    if (!request.stays_open) {
+    request_ = reading.request;
+    asking_ = true;
+    emit asked(request_);
+    return true;
+}
+
+void http_link::answer(const http_response& response) {
+    asking_ = false;
+    if (socket_->state() != QAbstractSocket::ConnectedState) {
+        return;
+    }
+    socket_->write(response_bytes(response, request_.head_only, request_.stays_open));
+    if (!request_.stays_open) {
         ending_ = true;
         finish();
+    } else {
+        read(); // what came behind it
     }
-    return true;
 }
 
 void http_link::drain() {

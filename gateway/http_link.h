@@ -18,10 +18,15 @@ class http_link : public QObject {
 
 public:
     /// Serves the connected socket and becomes its parent.
-    http_link(QTcpSocket* socket, http_handler handler, QObject* parent);
+    http_link(QTcpSocket* socket, QObject* parent);
     ~http_link() override;
 
+    /// The answer to the request that was asked last.
+    void answer(const http_response& response);
+
 signals:
+    /// A request came; answer() is owed for it, and nothing more is read until then.
+    void asked(const gateway::http_request& request);
     /// Something came.
     void heard();
     /// The connection is over.
@@ -36,9 +41,10 @@ private:
     void lose_patience();
 
     QTcpSocket* socket_;
-    http_handler handler_;
     QByteArray buffer_;
+    http_request request_; ///< that is asked
     QTimer patience_;
+    bool asking_ = false;    ///< an answer is owed
     bool between_ = false;   ///< nothing of a next request has come
     bool ending_ = false;    ///< no request is read any more
     bool finishing_ = false; ///< closing as soon as the answer is written

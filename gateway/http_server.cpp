@@ -5,6 +5,9 @@
 
 #include "gateway/http_link.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace gateway {
 
 http_server::http_server(QObject* parent) : QObject(parent) {
@@ -38,8 +41,13 @@ void http_server::accept() {
 }
 
 void http_server::serve(QTcpSocket* socket) {
-    auto* link = new http_link(
-        socket, [this](const http_request& request) { return answer(request); }, this);
+    auto* link = new http_link(socket, this);
+    connect(link, &http_link::asked, this, [this, link](const http_request& request) {
+        if (asked_.isEmpty()) {
+            QMetaObject::invokeMethod(this, &http_server::answer_all, Qt::QueuedConnection);
+        }
+        asked_.emplaceBack(link, request);
+    });
     links_.append(link);
     connect(link, &http_link::heard, this,
             [this, link] { links_.move(links_.indexOf(link), links_.size() - 1); });
@@ -47,6 +55,26 @@ void http_server::serve(QTcpSocket* socket) {
         links_.removeOne(link);
         link->deleteLater();
     });
+}
+
+void http_server::answer_all() {
+    const auto all = std::exchange(asked_, {});
+    QList<http_response> answers;
+    const bool gathered =
+        gather_ && all.size() > 1 && gather_([this, &all, &answers] {
+            for (const auto& [link, request] : all) {
+                answers.append(answer(request));
+            }
+            return std::none_of(answers.begin(), answers.end(),
+                                [](const http_response& one) { return one.status == 503; });
+        });
+    for (qsizetype i = 0; i < all.size(); ++i) {
+        const auto& [link, request] = all[i];
+        const http_response told = gathered ? answers[i] : answer(request);
+        if (link != nullptr) {
+            link->answer(told);
+        }
+    }
 }
 
 http_response http_server::answer(const http_request& request) const {

@@ -6,6 +6,7 @@
 #include "gateway/http_message.h"
 #include "gateway/settings.h"
 
+#include <QPointer>
 #include <QTcpServer>
 
 #include <functional>
@@ -37,6 +38,12 @@ public:
     /// No handler takes its place. A handler outlives the server or is taken away before it ends.
     void handle(const QByteArray& prefix, const http_handler& handler);
 
+    /// Lets requests that come together be answered within one call of `gather`, which gives false
+    /// when they are to be answered one by one instead. Nothing takes its place.
+    void gather_in(const std::function<bool(const std::function<bool()>&)>& gather) {
+        gather_ = gather;
+    }
+
     /// Listens from now on. Gives the reason if it cannot, else nothing; may then be tried again.
     [[nodiscard]] QString listen(const endpoint& place);
 
@@ -47,10 +54,13 @@ private:
     void accept();
     void serve(QTcpSocket* socket);
     [[nodiscard]] http_response answer(const http_request& request) const;
+    void answer_all();
 
     QTcpServer listener_;
     endpoint wanted_;
     QList<std::pair<QByteArray, http_handler>> handlers_;
+    std::function<bool(const std::function<bool()>&)> gather_;
+    QList<std::pair<QPointer<http_link>, http_request>> asked_; ///< and not answered yet
     QList<http_link*> links_; ///< the one heard of last at the end
 };
 

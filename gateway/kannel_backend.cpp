@@ -70,6 +70,7 @@ kannel_backend::kannel_backend(const kannel_settings& wanted, const QString& sec
 kannel_backend::~kannel_backend() {
     if (sink_ != nullptr) {
         calls_->handle(call_prefix.toByteArray(), {});
+        calls_->gather_in({});
     }
 }
 
@@ -78,6 +79,8 @@ void kannel_backend::start(network_sink& sink) {
     call_base_ = base_of_calls(wanted_.callback, *calls_) + secret_ + '/';
     calls_->handle(call_prefix.toByteArray(),
                    [this](const http_request& request) { return take_call(request); });
+    calls_->gather_in(
+        [this](const std::function<bool()>& work) { return sink_->take_together(work); });
     probe();
     if (!wanted_.status_password.isEmpty()) {
         look();

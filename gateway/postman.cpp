@@ -42,6 +42,9 @@ client_link* postman::choose() const {
 }
 
 void postman::look() {
+    if (store_.database().in_transaction()) {
+        return; // what is not kept yet goes to nobody
+    }
     client_link* const wanted = current_ == nullptr || current_->can_bring() ? choose() : current_;
     if (wanted != current_) {
         current_ = wanted;
@@ -77,7 +80,7 @@ bool postman::keep(const incoming_message& message) {
 
 bool postman::keep(const incoming_part& part) {
     const bool kept = try_store([&] {
-        transaction all(store_.database());
+        joined_transaction all(store_.database());
         rows_.insert(part, clock_.now());
         all.commit();
     });

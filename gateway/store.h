@@ -8,10 +8,29 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class exclusive_lease;
 
 namespace gateway {
+
+/// A transaction of its own, or a part of the one that is open.
+class [[nodiscard]] joined_transaction {
+public:
+    explicit joined_transaction(physical_database& database) {
+        if (!database.in_transaction()) {
+            own_.emplace(database);
+        }
+    }
+    void commit() {
+        if (own_) {
+            own_->commit();
+        }
+    }
+
+private:
+    std::optional<transaction> own_;
+};
 
 /// The relay's one file: messages, what the network told of them, what was received. Every commit
 /// is on disk when it returns.

@@ -22,6 +22,7 @@ public:
     [[nodiscard]] bool take(const gateway::incoming_part& part) override {
         return keep(parts, part);
     }
+    [[nodiscard]] bool take_together(const std::function<bool()>& work) override { return work(); }
     void health_changed() override { ++changes; }
 
     [[nodiscard]] bool has_report(gateway::message_id id, gateway::fate what) const {

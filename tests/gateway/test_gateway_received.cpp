@@ -61,6 +61,19 @@ private slots:
         QCOMPARE(client(u"c"_s).answers(), u"1"_s); // nothing is left for it
     }
 
+    void keeps_together_or_not_at_all() {
+        for (const bool all_kept : {false, true}) {
+            const bool kept = network_->sink->take_together([this, all_kept] {
+                return network_->sink->take(gateway::incoming_message{
+                           u"1"_s, u"10086"_s, QDateTime::currentDateTime(), u"text"_s}) &&
+                       client(u"a"_s).answers().isEmpty() && all_kept; // goes to nobody yet
+            });
+            QCOMPARE(kept, all_kept);
+            QCOMPARE(rows(u"SELECT text FROM received"_s), all_kept ? u"text"_s : QString());
+        }
+        QTRY_VERIFY(client(u"a"_s).answers().endsWith(u"text"));
+    }
+
     void joins_parts() {
         const auto part = [this](const QString& key, int number, int count, const QString& text) {
             return network_->sink->take(gateway::incoming_part{
