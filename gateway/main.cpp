@@ -116,15 +116,14 @@ int serve(const gateway::options& wanted) {
     gateway::store store(values.gateway.state_dir, gateway::store::user::daemon);
     gateway::http_server calls;
     QTimer open_again;
-    const bool is_called = values.gateway.engine == gateway::engine_name::kannel;
-    if (values.http.on && (values.http.page || is_called)) {
+    if (values.http.on &&
+        (values.http.page || values.gateway.engine == gateway::engine_name::kannel)) {
         open_calls(calls, values.http.listen, open_again);
     }
     const auto network = gateway::make_engine(values, time, &store, &calls);
     std::unique_ptr<gateway::control_channel> fifo;
-    const QString no_fifo = watch_fifo(wanted.control_path, *network, fifo);
-    if (!no_fifo.isEmpty()) {
-        return fail(no_fifo);
+    if (const QString fault = watch_fifo(wanted.control_path, *network, fifo); !fault.isEmpty()) {
+        return fail(fault);
     }
     gateway::relay relay(store, *network, time, values);
     std::optional<gateway::status_page> page;
