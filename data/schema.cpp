@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -47,36 +48,6 @@ content content_of(const QString& path) {
     return version == newest_schema_version() ? content::fitting : content::older;
 }
 
-/// `step` is a number, or "*" for any.
-QString copy_name(const QString& path, const QString& step) {
-    return QFileInfo(path).canonicalFilePath() + u"-before-step-"_s + step;
-}
-
-/// Copies the database beside itself, whole and on disk, and takes older copies away.
-void keep_copy(physical_database& database, const QString& path, int step) {
-    const QString place = copy_before_step(path, step);
-    const QString part = place + u".part"_s;
-    QFile::remove(part);
-    {
-        const auto copy = open_database(part, open_mode::create);
-        database.copy_to(*copy);
-    }
-    const std::error_code error =
-        move_durably(QFileInfo(part).filesystemFilePath(), QFileInfo(place).filesystemFilePath(),
-                     existing::replace);
-    if (error) {
-        throw DataError(DataError::Kind::disk, qt_error_string(error.value()));
-    }
-    const QFileInfo file(place);
-    QDir folder = file.dir();
-    const QString all = QFileInfo(copy_name(path, u"*"_s)).fileName();
-    for (const QString& name : folder.entryList({all}, QDir::Files)) {
-        if (name != file.fileName()) {
-            folder.remove(name);
-        }
-    }
-}
-
 } // namespace
 
 void fill_database(physical_database& database) {
@@ -99,26 +70,51 @@ int schema_version_of(physical_database& database) {
     return qMax(database.schema_version(), 1);
 }
 
-QString copy_before_step(const QString& path, int step) {
-    return copy_name(path, QString::number(step));
+QString keep_before_upgrade(physical_database& database, const QString& path) {
+    const QFileInfo file(QFileInfo(path).canonicalFilePath());
+    const QString name = file.fileName() + u"-before-step-"_s;
+    QDir folder = file.dir();
+    const QString place = folder.filePath(name + QString::number(schema_version_of(database) + 1));
+    const QString part = place + u".part"_s;
+    QFile::remove(part);
+    const auto nothing_half_made = qScopeGuard([&part] { QFile::remove(part); });
+    {
+        const auto copy = open_database(part, open_mode::create);
+        database.copy_to(*copy);
+    }
+    const std::error_code error =
+        move_durably(QFileInfo(part).filesystemFilePath(), QFileInfo(place).filesystemFilePath(),
+                     existing::replace);
+    if (error) {
+        throw DataError(DataError::Kind::disk, qt_error_string(error.value()));
+    }
+    for (const QString& other : folder.entryList({name + u'*'}, QDir::Files)) {
+        if (folder.filePath(other) != place) {
+            folder.remove(other);
+        }
+    }
+    return place;
+}
+
+void run_missing_steps(physical_database& database) {
+    for (int step = schema_version_of(database) + 1; step <= newest_schema_version(); ++step) {
+        run_schema_step(database, step);
+    }
 }
 
 int upgrade_database(const QString& path) {
-    return upgrade_database(*open_database(path), path);
-}
-
-int upgrade_database(physical_database& database, const QString& path) {
-    const int found = schema_version_of(database);
+    const auto database = open_database(path);
+    const int found = schema_version_of(*database);
     if (found > newest_schema_version()) {
         throw DataError(DataError::Kind::newer_version, path);
     }
     if (found < newest_schema_version()) {
-        keep_copy(database, path, found + 1);
+        keep_before_upgrade(*database, path);
     }
     for (int step = found + 1; step <= newest_schema_version(); ++step) {
-        transaction stepping(database);
-        if (schema_version_of(database) < step) { // another start may have been quicker
-            run_schema_step(database, step);
+        transaction stepping(*database);
+        if (schema_version_of(*database) < step) { // another start may have been quicker
+            run_schema_step(*database, step);
         }
         stepping.commit();
     }

@@ -20,16 +20,18 @@ void fill_database(physical_database& database);
 [[nodiscard]] int schema_version_of(physical_database& database);
 
 /// Runs the steps of the schema that the database at `path` lacks, each in a transaction of its
-/// own, when a copy lies beside it as `copy_before_step` says (of several the newest is kept).
-/// Returns the version that it had. Throws DataError: newer_version when it is too new for this
-/// program, and when it cannot be read or written.
+/// own, once it is kept as keep_before_upgrade says. Returns the version that it had. Throws
+/// DataError: newer_version when it is too new for this program, and when it cannot be read or
+/// written.
 int upgrade_database(const QString& path);
 
-/// The same through a connection that is open to it already.
-int upgrade_database(physical_database& database, const QString& path);
+/// Copies the database at `path`, open as `database` and of an older version, to
+/// "PATH-before-step-N", where N is the first step that it lacks; of several such copies the newest
+/// is kept. Returns where it is; for a link that is beside its end. Throws DataError.
+QString keep_before_upgrade(physical_database& database, const QString& path);
 
-/// Where the database at `path` is kept as it was before that step; of a link, beside its end.
-[[nodiscard]] QString copy_before_step(const QString& path, int step);
+/// Runs the steps that the database lacks, in the transaction that is open. Throws DataError.
+void run_missing_steps(physical_database& database);
 
 /// Makes the database that `connection_string` names when its file is missing or holds no table
 /// yet, and upgrades an older one. A file that cannot be read is left for its first user to report.

@@ -45,10 +45,13 @@ int run(const QCommandLineParser& arguments) {
         return exit_status::clean;
     }
     closing_up::keep_to_oneself(*database, file).commit(); // it stays its own
+    const QString kept = keep_before_upgrade(*database, file);
+    transaction upgrading(*database, physical_database::purpose::alone);
+    run_missing_steps(*database);
+    database->write_ahead();
     conclude(texts::tr("upgraded %1 from version %2 to %3; as it was it is kept as %4\n")
-                 .arg(file, QString::number(found), QString::number(newest),
-                      copy_before_step(file, found + 1)),
-             [&] { upgrade_database(*database, file); });
+                 .arg(file, QString::number(found), QString::number(newest), kept),
+             [&upgrading] { upgrading.commit(); });
     return exit_status::clean;
 }
 

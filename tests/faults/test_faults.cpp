@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "data/schema.h"
 #include "data/strconn.h"
 #include "tests/faults/workplace.h"
 
@@ -115,7 +114,7 @@ private slots:
             }
             process struck(u"/fault_client"_s, {folder, job});
             QVERIFY(struck.says(begins));
-            const QString kept = copy_before_step(folder + u"/sms.old.mdb"_s, 2);
+            const QString kept = folder + u"/sms.old.mdb-before-step-2"_s;
             while (tag == u"upgrade" && !QFile::exists(kept) && !struck.waitForFinished(1)) {
             }
             w.kills += struck.end(1 + chance_.bounded(takes_ms));
