@@ -71,10 +71,11 @@ int run(const QCommandLineParser& arguments) {
     const qint64 userid = operator_named(*database, name);
     grant_everything(*database, userid);
     database->write_ahead();
-    conclude(texts::tr("operator %1 (number %2) has both rights\nWARNING: THE PASSWORD IS EMPTY "
-                       "NOW. Anybody can log in as %1; do it at once and set a password.\n")
-                 .arg(shown(name), QString::number(userid)),
-             [&granting] { granting.commit(); });
+    conclude(
+        texts::tr(
+            "operator %1 (number %2) has both rights\nWARNING: THE PASSWORD IS EMPTY NOW. Anybody can log in as %1; do it at once and set a password.\n")
+            .arg(shown(name), QString::number(userid)),
+        [&granting] { granting.commit(); });
     return exit_status::clean;
 }
 

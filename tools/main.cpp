@@ -47,8 +47,9 @@ QString overview() {
             text += u"  %1 %2\n"_s.arg(offered.name, -17).arg(offered.summary);
         }
     }
-    return text + texts::tr("\nsmsdb COMMAND --help tells how a command is used; smsdb --version "
-                            "the version.\n");
+    return text +
+           texts::tr(
+               "\nsmsdb COMMAND --help tells how a command is used; smsdb --version the version.\n");
 }
 
 int run(const command& wanted, const QStringList& arguments) {

@@ -57,9 +57,10 @@ void require_office(physical_database& database, const QString& file, office_use
         return;
     }
     if (wanted == office_use::writing) {
-        throw failure(texts::tr("%1: is of an older version, %2 and not %3; upgrade it first (see "
-                                "smsdb upgrade --help)")
-                          .arg(file, QString::number(version), QString::number(newest)));
+        throw failure(
+            texts::tr(
+                "%1: is of an older version, %2 and not %3; upgrade it first (see smsdb upgrade --help)")
+                .arg(file, QString::number(version), QString::number(newest)));
     }
     complain(texts::tr("%1: is of an older version, %2 and not %3 (see smsdb upgrade --help)")
                  .arg(file, QString::number(version), QString::number(newest)));

@@ -177,9 +177,10 @@ QString importer::report() const {
     const qint64 waiting = database_.number(
         u"SELECT count(*) FROM sendsms WHERE sendisok = 0 AND stime IS NOT NULL"_s);
     if (waiting > 0) {
-        text += texts::tr("%1 message(s) wait to be sent; the next client that starts with the "
-                          "gateway sends those that are due\n")
-                    .arg(waiting);
+        text +=
+            texts::tr(
+                "%1 message(s) wait to be sent; the next client that starts with the gateway sends those that are due\n")
+                .arg(waiting);
     }
     return text;
 }

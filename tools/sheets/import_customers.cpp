@@ -116,11 +116,12 @@ customer_importer::customer_importer(physical_database& database, duplicates way
 qint64 customer_importer::given_number(const QString& table) {
     const qint64 number = database_.last_key();
     if (number > last_number) {
-        throw failure(texts::tr("the numbers of %1 run out at %2: no more than %3 new one(s) fit; "
-                                "nothing is imported")
-                          .arg(table)
-                          .arg(last_number)
-                          .arg(given_.value(table)));
+        throw failure(
+            texts::tr(
+                "the numbers of %1 run out at %2: no more than %3 new one(s) fit; nothing is imported")
+                .arg(table)
+                .arg(last_number)
+                .arg(given_.value(table)));
     }
     ++given_[table];
     return number;

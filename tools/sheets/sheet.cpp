@@ -66,9 +66,10 @@ std::pair<QString, bool> text_of(const QByteArray& content, const QString& path,
     const bool is_known = text || marked || !charset.isEmpty();
     const qint64 line = is_known ? 0 : line_of_other_encoding(content);
     if (line != 0) {
-        throw failure(texts::tr("%1: line %2 is not in UTF-8 as others are; save the file anew, "
-                                "all in one encoding")
-                          .arg(path, QString::number(line)));
+        throw failure(
+            texts::tr(
+                "%1: line %2 is not in UTF-8 as others are; save the file anew, all in one encoding")
+                .arg(path, QString::number(line)));
     }
     if (!is_known) {
         text = decoded(QStringDecoder("GB18030", whole), content);
