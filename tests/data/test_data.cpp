@@ -166,12 +166,14 @@ private slots:
     void a_write_touches_its_row_alone() {
         run(u"insert into parameters values ('x', 1)"_s);
         run(u"insert into sendsms (mobile, sendisok) values ('m', 0), ('n', 0)"_s);
+        const m_recvedsms received{1, u"m"_s, u"好"_s, now_, true, {}, 0};
+        const m_sendsms message{1, u"M"_s, 2, u"%1"_s, true, {}, now_, {}, true, true};
         for (int i = 0; i < 2; ++i) {
-            QVERIFY(groups_.addrec(2, 1) && received_.addrec(u"m"_s, u"好"_s, now_, true));
+            QVERIFY(groups_.addrec(2, 1) && received_.add(received));
         }
-        QVERIFY(groups_.updaterec(1, 1, 2) && received_.updaterec(1) &&
+        QVERIFY(groups_.updaterec(1, 1, 2) && received_.update(received) &&
                 parameters_.updaterec(u"h"_s, -1));
-        QVERIFY(outgoing_.updaterec(1, u"M"_s, 2, u"%1"_s, now_) && outgoing_.sended(2));
+        QVERIFY(outgoing_.update(message) && outgoing_.sended(2));
         QCOMPARE(rows(u"select * from parameters"_s), u"h|-1 h|-1"_s); // every row
         QCOMPARE(rows(u"select mobile, readed from recvedsms"_s), u"m|1 m|0"_s);
         QCOMPARE(rows(u"select * from cgroup"_s), u"1|1|2 2|2|1"_s);
@@ -220,7 +222,7 @@ private slots:
             rows(
                 u"select cid || sms || imsend || isall || cname || (stime > rtime) from vwgsendsms"_s),
             u"5Hi-10A1 7Hi-101 5Hi-1-1A1"_s);
-        QVERIFY(group_sends_.updaterec(1, 6, false, -1, later, now_));
+        QVERIFY(group_sends_.update({1, 6, now_, false, later, {}, -1, {}}));
         QCOMPARE(rows(u"select cid, imsend, isall, rtime > stime from gsendsms where gsid=1"_s),
                  u"6|0|-1|1"_s);
 

@@ -18,8 +18,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// What an operator does with each entity, and what comes of it. A step of "add" or "edit" is one
-/// showing of the dialog: what its boxes show, what is typed into them ("box=text"; a text behind a
-/// picker's name is the row that is picked, none gives up), and the box that comes of saving it.
+/// showing of the dialog: where the keyboard is and what is selected there, what its boxes show,
+/// what is typed into them ("box=text"; a text behind a picker's name is the row that is picked,
+/// none gives up), and the box that comes of saving it.
 QJsonArray entities() {
     QFile file(QString::fromUtf8(ENTITIES));
     return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).array()
@@ -72,6 +73,10 @@ void expect_steps(const QByteArray& dialog_class, const QJsonArray& steps, bool 
     person::expect_modal(dialog_class.constData(), [=](QWidget& dialog) {
         const QJsonValue step = steps[at];
         const bool is_last = at + 1 == steps.size();
+        const QWidget& focus = *dialog.focusWidget();
+        const QString place = focus.objectName() + u':' + focus.property("selectedText").toString();
+        QTest::qCompare(place, step[u"at"_s].toString(place), "the keyboard's place", "expected",
+                        __FILE__, __LINE__);
         for (const auto& [box, text] : boxes_of(step[u"shows"_s])) {
             QTest::qCompare(person::text_of(dialog, box), text, qPrintable(box), "expected",
                             __FILE__, __LINE__);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smscrm authors
 // SPDX-License-Identifier: MIT
 
-#include "listview/frmref.h"
 #include "listview/forms/row_dialog.h"
+#include "listview/frmref.h"
 #include "platform/widgets/msgbox.h"
 #include "tests/screens/screen_fixture.h"
 
@@ -176,6 +176,7 @@ private slots:
         person::during_modal<QMessageBox>([&title](QMessageBox& box) {
             const int buttons = 5 * box.fontMetrics().height(); // of the title bar
             QVERIFY(box.width() > box.fontMetrics().horizontalAdvance(title) + buttons);
+            QCOMPARE(box.textFormat(), Qt::PlainText); // what a customer is called is no markup
             person::press_key(box, Qt::Key_Return);
         });
         msgbox::information(u"好"_s, title);

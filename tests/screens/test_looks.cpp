@@ -12,11 +12,11 @@
 #include "listview/frmconduser.h"
 #include "listview/frmref.h"
 #include "operators/frmRights.h"
-#include "operators/frmuser.h"
 #include "tests/screens/screen_fixture.h"
 
 #include <QCheckBox>
 #include <QHeaderView>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -85,14 +85,18 @@ void check_texts(const QWidget& window) {
     }
 }
 
-void check_dialog(QDialog&& dialog) {
-    dialog.show();
+void check_shown(QWidget& dialog) {
     check_road(dialog, dialog);
     check_texts(dialog);
     auto buttons = dialog.findChildren<QPushButton*>(); // the rights editor has none
     QVERIFY(buttons.isEmpty() || buttons.removeIf([](auto* one) { return one->isDefault(); }) == 1);
     person::press_key(dialog, Qt::Key_Escape);
     QVERIFY2(!dialog.isVisible(), qPrintable(dialog.windowTitle()));
+}
+
+void check_dialog(QDialog&& dialog) {
+    dialog.show();
+    check_shown(dialog);
 }
 
 } // namespace
@@ -121,26 +125,32 @@ private slots:
         for (const QWidget* menu : program.window.findChildren<QWidget*>()) {
             check_keys(menu->actions());
         }
-        for (const auto& item :
-             {u"mnuSysUSer"_s, u"mnucusclass"_s, u"mnuProject"_s, u"mnugroup"_s, u"mnuCreTech"_s,
-              u"mnusend"_s, u"mnuTIMEC"_s, u"mnunewcustomer"_s}) {
+        QStringList items{u"mnuSysUSer"_s};
+        for (const QAction* item : person::find<QMenu>(program.window, u"mnuIN"_s).actions()) {
+            items += item->isEnabled() && !item->isSeparator() ? item->objectName() : QString();
+        }
+        items.removeAll(QString());
+        for (const QString& item : items) {
             const frmdatagrid& list = program.list(item);
             QCoreApplication::processEvents(); // the tool bar puts its buttons in place
             check_road(list, grid_of(list));   // which has the focus
             check_texts(list);
+            if (person::find<QAction>(list, u"Add"_s).isEnabled()) {
+                person::expect_modal("edit_dialog", check_shown);
+                person::click(list, u"Add"_s);
+            }
         }
+        QVERIFY(person::all_answered());
 
         const picker_column number{u"mid", u"编号", 900};
         spListHeaders columns = make_picker_columns(u"常用语"_s, {}, {&number, 1});
         Recordset rows;
         vc_in none;
         const auto check = [](auto&&... dialogs) { (check_dialog(std::move(dialogs)), ...); };
-        check(frmSmsm(), frmCustomer(), FrmParameter(), frmCusclass(), frmGroup(none, none),
-              frmGsendsms(none, none, system_clock, [](auto, auto) { return 0; }),
-              frmSendsms(none, none, system_clock), frmLogin(), frmserver(), frmuser(),
-              frmFind(columns), frmSort(columns), frmref(columns, rows),
-              row_dialog(grid_of(program.list(u"mnusend"_s))), frmSetList(columns),
-              frmconduser({}, none), frmRights(), frmAbout(*system_registry()));
+        check(FrmParameter(), frmLogin(), frmserver(), frmFind(columns), frmSort(columns),
+              frmref(columns, rows), row_dialog(grid_of(program.list(u"mnusend"_s))),
+              frmSetList(columns), frmconduser({}, none), frmRights(),
+              frmAbout(*system_registry()));
     }
 
     void what_the_style_draws_turns_light_with_a_dark_desktop() {

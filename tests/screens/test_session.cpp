@@ -256,7 +256,9 @@ private slots:
         QVERIFY(windows[0]->pos() != windows[1]->pos());
         windows[0]->setGeometry(program_->area.rect());
         windows[0]->raise();
+        icon.move(200, 30);
         person::choose(program_->window, u"mnuWindowArrangeIcons"_s);
+        QCOMPARE(icon.pos(), QPoint(0, room.height()));
         QCOMPARE(program_->area.subWindowList(QMdiArea::StackingOrder).last(), &icon);
     }
 
