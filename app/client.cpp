@@ -24,37 +24,18 @@
 using namespace Qt::StringLiterals;
 
 client::client()
-    : windows_(std::make_unique<QMdiArea>()),
-      turn_(data_source(strconn)),
-      phrase_screen_(*windows_, phrases_),
-      class_screen_(*windows_, classes_),
-      customer_screen_(*windows_, customers_),
-      parameter_screen_(parameters_),
-      group_screen_(*windows_, groups_, class_screen_, customer_screen_),
-      outgoing_screen_(*windows_, outgoing_, customer_screen_, phrase_screen_),
-      group_send_screen_(*windows_, group_sends_, class_screen_, phrase_screen_),
-      received_screen_(*windows_, received_),
-      operator_screen_(*windows_) {}
+    : windows_(std::make_unique<QMdiArea>()), screens_(*windows_), turn_(data_source(strconn)) {}
 
 client::~client() = default;
 
 frmMain& client::open_main_window() {
-    main_window_ =
-        std::make_unique<frmMain>(std::move(windows_),
-                                  frmMain::controllers{.phrases = phrase_screen_,
-                                                       .classes = class_screen_,
-                                                       .customers = customer_screen_,
-                                                       .parameters = parameter_screen_,
-                                                       .groups = group_screen_,
-                                                       .outgoing = outgoing_screen_,
-                                                       .group_sends = group_send_screen_,
-                                                       .received = received_screen_,
-                                                       .operators = operator_screen_},
-                                  dispatch_engine::collaborators{.parameters = parameters_,
-                                                                 .outgoing = outgoing_,
-                                                                 .received = received_,
-                                                                 .queue = queue_,
-                                                                 .turn = &turn_});
+    main_window_ = std::make_unique<frmMain>(
+        std::move(windows_), screens_,
+        dispatch_engine::collaborators{.parameters = screens_.parameter_records,
+                                       .outgoing = screens_.outgoing_records,
+                                       .received = screens_.received_records,
+                                       .queue = queue_,
+                                       .turn = &turn_});
     frmSplash splash(main_window_.get());
     splash.show();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // lets the picture appear

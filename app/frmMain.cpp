@@ -9,8 +9,8 @@
 #include "app/frmserver.h"
 #include "app/list_follower.h"
 #include "app/list_panel.h"
+#include "app/screens.h"
 #include "app/window_placement.h"
-#include "listview/vc_in.h"
 #include "operators/frmRights.h"
 #include "operators/rsclsuser.h"
 #include "operators/usermaintain.h"
@@ -65,7 +65,7 @@ QMenu& add_menu(QMainWindow& window, const QString& name, const QString& caption
 
 } // namespace
 
-frmMain::frmMain(std::unique_ptr<QMdiArea> windows, const controllers& opened,
+frmMain::frmMain(std::unique_ptr<QMdiArea> windows, screens& opened,
                  const dispatch_engine::collaborators& dispatched)
     : windows_(windows.release()),
       opened_(opened),

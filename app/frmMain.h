@@ -9,28 +9,15 @@
 #include <QMainWindow>
 
 class QLabel;
-class vc_in;
+struct screens;
 
 /// The frame window: menus, status bar, the list windows and the dispatch engine.
 class frmMain : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// The controllers that the menus open.
-    struct controllers {
-        vc_in& phrases;
-        vc_in& classes;
-        vc_in& customers;
-        vc_in& parameters;
-        vc_in& groups;
-        vc_in& outgoing;
-        vc_in& group_sends;
-        vc_in& received;
-        vc_in& operators;
-    };
-
-    /// `windows` is the area into which the controllers put their list windows.
-    frmMain(std::unique_ptr<QMdiArea> windows, const controllers& opened,
+    /// `windows` is the area into which the screens put their list windows.
+    frmMain(std::unique_ptr<QMdiArea> windows, screens& opened,
             const dispatch_engine::collaborators& dispatched);
     ~frmMain() override;
     Q_DISABLE_COPY_MOVE(frmMain)
@@ -67,7 +54,7 @@ private:
     void log_out_or_in();
 
     QMdiArea* windows_;
-    controllers opened_;
+    screens& opened_;
     dispatch_engine engine_;
     QLabel* operator_panel_;
     QAction* logout_ = nullptr;
