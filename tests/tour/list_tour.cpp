@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/frmMain.h"
-#include "listview/frmdatagrid.h"
 #include "listview/forms/row_dialog.h"
+#include "listview/frmdatagrid.h"
 #include "platform/widgets/data_grid.h"
 #include "tests/tour/chapters.h"
 #include "tests/tour/guide.h"
