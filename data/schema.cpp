@@ -74,7 +74,7 @@ QString keep_before_upgrade(physical_database& database, const QString& path) {
     const QFileInfo file(QFileInfo(path).canonicalFilePath());
     const QString name = file.fileName() + u"-before-step-"_s;
     QDir folder = file.dir();
-    const QString place = folder.filePath(name + QString::number(schema_version_of(database) + 1));
+    QString place = folder.filePath(name + QString::number(schema_version_of(database) + 1));
     const QString part = place + u".part"_s;
     QFile::remove(part);
     const auto nothing_half_made = qScopeGuard([&part] { QFile::remove(part); });
