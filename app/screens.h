@@ -25,6 +25,7 @@
 struct screens {
     /// `area` gets the list windows.
     explicit screens(QMdiArea& area) : windows(area) {}
+    ~screens() = default;
     Q_DISABLE_COPY_MOVE(screens)
 
     QMdiArea& windows;

@@ -60,6 +60,20 @@ inline void expect_refusal(const QString& text, const QString& title = QStringLi
     person::expect_box(title, text, QMessageBox::Ok, QMessageBox::Critical);
 }
 
+/// Puts a received message into the database.
+inline void store_received(int key, const QString& text) {
+    const auto row =
+        QStringLiteral("insert into recvedsms values (%1, '139', '%2', '2024/01/31 08:00:00', 0)");
+    test_database::execute(row.arg(QString::number(key), text));
+}
+
+/// Puts phrases "text 7", "text 14" … into the database, under the keys from 1 to 60.
+inline void store_60_phrases() {
+    test_database::execute(
+        QStringLiteral("with recursive n(i) as (select 1 union all select i+1 from n where i<60) "
+                       "insert into smsmodels select i, 'text ' || (i*7%60) from n"));
+}
+
 /// What a window's grid shows in a column, its rows joined by blanks.
 [[nodiscard]] inline QString column_of(const QWidget& window, int column) {
     const QAbstractItemModel& model = *grid_of(window).model();

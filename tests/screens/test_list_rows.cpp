@@ -37,18 +37,11 @@ class test_list_rows : public QObject {
     frmdatagrid& phrases() { return program_.list(u"mnuCreTech"_s); }
     frmdatagrid& received() { return program_.list(u"mnunewcustomer"_s); }
 
-    static void store(int key, const QString& text) {
-        test_database::execute(
-            u"insert into recvedsms values (%1, '139', '%2', '2024/01/31 08:00:00', 0)"_s.arg(
-                QString::number(key), text));
-    }
-
 private slots:
     void init() {
         test_database::execute(u"delete from smsmodels"_s);
         test_database::execute(u"delete from recvedsms"_s);
-        test_database::execute(
-            u"with recursive n(i) as (select 1 union all select i+1 from n where i<60) insert into smsmodels select i, 'text ' || (i*7%60) from n"_s);
+        store_60_phrases();
     }
 
     void cleanup() {
@@ -147,11 +140,11 @@ private slots:
         auto& pause = person::find<QTimer>(program_.window, u"pause"_s);
         QCOMPARE(pause.interval(), 1000);
         pause.setInterval(0);
-        store(1, u"a"_s);
+        store_received(1, u"a"_s);
         emit program_.window.engine().stored();
         QTRY_COMPARE(column_of(list, 3), u"a"_s);
         person::during_modal<frmFind>([&](frmFind& dialog) {
-            store(2, u"b"_s);
+            store_received(2, u"b"_s);
             emit program_.window.engine().stored();
             QSignalSpy tried(&pause, &QTimer::timeout);
             QTRY_VERIFY(tried.count() > 1);

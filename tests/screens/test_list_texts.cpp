@@ -37,12 +37,6 @@ class test_list_texts : public QObject {
 
     frmdatagrid& received() { return program_.list(u"mnunewcustomer"_s); }
 
-    static void store(int key, const QString& text) {
-        test_database::execute(
-            u"insert into recvedsms values (%1, '139', '%2', '2024/01/31 08:00:00', 0)"_s.arg(
-                QString::number(key), text));
-    }
-
 private slots:
     void init() { test_database::execute(u"delete from recvedsms"_s); }
 
@@ -53,8 +47,7 @@ private slots:
 
     void picks_as_one_types() {
         const frmdatagrid& messages = program_.list(u"mnusend"_s);
-        test_database::execute(
-            u"with recursive n(i) as (select 1 union all select i+1 from n where i<60) insert into smsmodels select i, 'text ' || (i*7%60) from n"_s);
+        store_60_phrases();
         test_database::execute(u"insert into smsmodels values (70, '晚安，明天见')"_s);
         person::during_modal<frmSendsms>([](frmSendsms& dialog) {
             person::during_modal<frmref>([](frmref& picker) {
@@ -114,7 +107,7 @@ private slots:
     }
 
     void shows_and_copies_whole_texts() {
-        store(1, u"first line\nsecond <b>line"_s);
+        store_received(1, u"first line\nsecond <b>line"_s);
         frmdatagrid& list = received();
         data_grid& grid = grid_of(list);
         for (const auto& open : {std::function([&] { person::double_click(grid, 0); }),
@@ -146,8 +139,8 @@ private slots:
 
     void exports_what_is_shown() {
         const QTemporaryDir folder;
-        store(1, u"=1+1"_s);
-        store(2, u"a,b"_s);
+        store_received(1, u"=1+1"_s);
+        store_received(2, u"a,b"_s);
         frmdatagrid& list = received();
         grid_of(list).setColumnHidden(2, true);
         click_heading(grid_of(list), 0);
