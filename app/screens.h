@@ -23,12 +23,16 @@
 
 /// The record access of every entity and its controller, each made with what it needs.
 struct screens {
-    /// `area` gets the list windows.
-    explicit screens(QMdiArea& area) : windows(area) {}
+    /// `area` gets the list windows; `now` is the clock of all of them.
+    explicit screens(QMdiArea& area, clock_source clock = system_clock)
+        : windows(area), now(std::move(clock)) {
+        outgoing_records.now = now;
+    }
     ~screens() = default;
     Q_DISABLE_COPY_MOVE(screens)
 
     QMdiArea& windows;
+    clock_source now;
 
     c_smsm phrase_records;
     c_cusclass class_records;
@@ -44,8 +48,8 @@ struct screens {
     vc_customer customers{windows, customer_records};
     vc_parameter parameters{parameter_records};
     vc_group groups{windows, group_records, classes, customers};
-    vc_sendsms outgoing{windows, outgoing_records, customers, phrases};
-    vc_gsendsms group_sends{windows, group_send_records, classes, phrases};
+    vc_sendsms outgoing{windows, outgoing_records, customers, phrases, now};
+    vc_gsendsms group_sends{windows, group_send_records, classes, phrases, now};
     vc_recvedsms received{windows, received_records};
     vc_users operators{windows};
 };

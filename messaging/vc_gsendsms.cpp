@@ -35,9 +35,9 @@ bool validate(frmGsendsms& dialog) {
 } // namespace
 
 vc_gsendsms::vc_gsendsms(QMdiArea& windows, const c_gsendsms& access, vc_in& classes,
-                         vc_in& phrases)
+                         vc_in& phrases, clock_source now)
     : entity_writer(
-          windows, access, described, validate, classes, phrases, system_clock,
+          windows, access, described, validate, classes, phrases, std::move(now),
           [&access](qint16 cid, qint16 isall) { return access.count_addressees(cid, isall); }) {}
 
 bool vc_gsendsms::add(const m_gsendsms& added) const {

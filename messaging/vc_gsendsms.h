@@ -12,7 +12,8 @@ class vc_gsendsms : public entity_writer<c_gsendsms, frmGsendsms, vc_in&, vc_in&
                                          frmGsendsms::addressee_count> {
 public:
     /// `classes` and `phrases` are what the edit dialog picks from.
-    vc_gsendsms(QMdiArea& windows, const c_gsendsms& access, vc_in& classes, vc_in& phrases);
+    vc_gsendsms(QMdiArea& windows, const c_gsendsms& access, vc_in& classes, vc_in& phrases,
+                clock_source now);
 
 protected:
     /// A long one shows how far it is.

@@ -29,5 +29,6 @@ bool validate(frmSendsms& dialog) {
 
 } // namespace
 
-vc_sendsms::vc_sendsms(QMdiArea& windows, const c_sendsms& access, vc_in& customers, vc_in& phrases)
-    : entity_writer(windows, access, described, validate, customers, phrases, access.now) {}
+vc_sendsms::vc_sendsms(QMdiArea& windows, const c_sendsms& access, vc_in& customers, vc_in& phrases,
+                       clock_source now)
+    : entity_writer(windows, access, described, validate, customers, phrases, std::move(now)) {}

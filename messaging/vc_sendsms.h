@@ -11,5 +11,6 @@
 class vc_sendsms : public entity_writer<c_sendsms, frmSendsms, vc_in&, vc_in&, clock_source> {
 public:
     /// `customers` and `phrases` are what the edit dialog picks from.
-    vc_sendsms(QMdiArea& windows, const c_sendsms& access, vc_in& customers, vc_in& phrases);
+    vc_sendsms(QMdiArea& windows, const c_sendsms& access, vc_in& customers, vc_in& phrases,
+               clock_source now);
 };

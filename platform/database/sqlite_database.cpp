@@ -49,15 +49,16 @@ reading reading_of(const QString& path) {
     return {QString::fromLatin1(url + "?immutable=1"), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI};
 }
 
-/// Where the number begins that the statement ends in, as in "… where smsid=15"; its length when it
-/// ends in none.
+/// Where the number begins that the statement ends in, as in "update … where smsid=15"; its length
+/// when it ends in none.
 qsizetype start_of_last_number(const QString& statement) {
     constexpr qsizetype most_digits = 18; // of a 64-bit number, whatever they are
     qsizetype start = statement.size();
     while (start > 0 && statement[start - 1] >= u'0' && statement[start - 1] <= u'9') {
         --start;
     }
-    const bool is_compared = start > 0 && statement[start - 1] == u'=';
+    const bool is_compared =
+        statement.startsWith("update "_L1) && start > 0 && statement[start - 1] == u'=';
     return is_compared && statement.size() - start <= most_digits ? start : statement.size();
 }
 

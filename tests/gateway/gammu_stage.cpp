@@ -7,6 +7,10 @@
 
 #include <QFile>
 
+#include <csignal>
+
+#include <sys/prctl.h>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -65,6 +69,7 @@ gammu_stage::gammu_stage() {
 
 void gammu_stage::start_daemon() {
     run(u"DELETE FROM phones"_s);
+    daemon_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
     daemon_.start(u"gammu-smsd"_s, {u"-c"_s, path(u"smsdrc"_s)});
     QTRY_VERIFY2_WITH_TIMEOUT(!column(u"SELECT IMEI FROM phones"_s).isEmpty(),
                               qPrintable(daemon_.errorString()), 30'000);
