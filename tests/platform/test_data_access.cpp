@@ -189,9 +189,9 @@ private slots:
         QFile::setPermissions(path_, QFileDevice::Permissions(0x6666));
         QFile::setPermissions(lease, QFileDevice::Permissions(0x6444));
         const auto lease_by_nobody = [this] {
-            return QProcess::execute(u"setpriv"_s,
-                                     {u"--reuid=65534"_s, u"--clear-groups"_s,
-                                      QCoreApplication::applicationFilePath(), u"--lease"_s, path_});
+            return QProcess::execute(u"setpriv"_s, {u"--reuid=65534"_s, u"--clear-groups"_s,
+                                                    QCoreApplication::applicationFilePath(),
+                                                    u"--lease"_s, path_});
         };
         QCOMPARE(lease_by_nobody(), 0);
         QFile::setPermissions(lease, QFileDevice::Permissions(0x6666));

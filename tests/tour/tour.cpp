@@ -47,7 +47,7 @@ void start_gateway(QProcess& gateway, const QString& folder) {
     gateway.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     for (int port = 32'767; port > 32'700; --port) {
         gateway.start(QCoreApplication::applicationDirPath() + u"/smsgateway"_s,
-                      {u"--no-page"_s, u"--state"_s, folder + u"/gateway"_s, u"--listen"_s,
+                      {u"--store"_s, folder + u"/gateway"_s, u"--no-page"_s, u"--listen"_s,
                        u"127.0.0.1:%1"_s.arg(port)});
         if (gateway.waitForReadyRead() && gateway.readLine().startsWith("listening on")) {
             return;
