@@ -21,7 +21,7 @@ public:
 
     c_gsendsms();
 
-    /// Opens the customers, not group sends; nothing calls it.
+    /// Opens the customers, not group sends.
     void searchsms(Recordset& rs) const;
     /// Stores the group send and one pending message for each customer addressed; all of it is on
     /// disk when the call returns. After an error half-way what was written stays, and the answer

@@ -10,7 +10,7 @@
 class c_parameter : public record_access {
 public:
     [[nodiscard]] std::optional<m_parameter> getrec() const;
-    /// Inserts a phrase template, not a parameters row; nothing calls it.
+    /// Inserts a phrase template, not a parameters row.
     [[nodiscard]] bool addrec(const QString& text) const;
     /// Rewrites every row of the table.
     [[nodiscard]] bool updaterec(const QString& ip, qint16 port) const;

@@ -11,7 +11,7 @@ class c_recvedsms : public table_access<m_recvedsms> {
 public:
     c_recvedsms();
 
-    /// Opens the customers, not received messages; nothing calls it.
+    /// Opens the customers, not received messages.
     void searchsms(Recordset& rs) const;
     /// Stores the message as unread, whatever `readed` says.
     [[nodiscard]] bool addrec(const QString& mobile, const QString& sms, const QDateTime& rtime,
