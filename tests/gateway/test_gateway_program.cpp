@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
 #include <csignal>
 #include <list>
 #include <memory>
@@ -178,6 +179,18 @@ private slots:
         QCOMPARE(decide(u"drop"_s, last_id_), u"0"_s);
         QVERIFY(list().endsWith(u"dropped +8613912345678 Hello2"_s));
         QCOMPARE(decide(u"show"_s, u"5"_s), u"1smsgateway: there is no message 5\n"_s);
+    }
+
+    void outlives_whoever_read_what_it_says() {
+        serve({}, [] { // its complaints go into a pipe that nobody reads
+            std::array<int, 2> ends{};
+            if (::pipe(ends.data()) == 0 && ::dup2(ends[1], STDERR_FILENO) >= 0) {
+                ::close(ends[0]);
+                ::close(ends[1]);
+            }
+        });
+        process_->write("nonsense\nrecv 8613912345678 there\n");
+        QTRY_VERIFY(client_->answers().endsWith(u"there"_s));
     }
 
     void brings_messages() {
