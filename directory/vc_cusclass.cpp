@@ -3,13 +3,16 @@
 
 #include "directory/vc_cusclass.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int longest_name = 50; // characters
 
-constexpr picker_column picker_columns[]{{u"cname", u"名称", 4500}, {u"ccid", u"编号", 900}};
+constexpr auto picker_columns =
+    std::to_array<picker_column>({{u"cname", u"名称", 4500}, {u"ccid", u"编号", 900}});
 
 constexpr entity_description described{
     .view_no = u"v_cusclass",

@@ -3,16 +3,21 @@
 
 #include "directory/vc_customer.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr picker_column picker_columns[]{
-    {u"cid", u"编号", 900, u"@"},        {u"mobile", u"手机", 1800, u"@"},
-    {u"cname", u"客户名称", 1800, u"@"}, {u"birth", u"生日", 1350, u"@"},
-    {u"phone", u"电话", 1800, u"@"},     {u"sex", u"性别", 750, u"@"},
+constexpr auto picker_columns = std::to_array<picker_column>({
+    {u"cid", u"编号", 900, u"@"},
+    {u"mobile", u"手机", 1800, u"@"},
+    {u"cname", u"客户名称", 1800, u"@"},
+    {u"birth", u"生日", 1350, u"@"},
+    {u"phone", u"电话", 1800, u"@"},
+    {u"sex", u"性别", 750, u"@"},
     {u"memo", u"备注", 3000, u"@"},
-};
+});
 
 constexpr entity_description described{
     .view_no = u"v_customer",

@@ -3,13 +3,16 @@
 
 #include "directory/vc_smsm.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int longest_phrase = 200; // characters
 
-constexpr picker_column picker_columns[]{{u"text", u"短语", 7500}, {u"mid", u"编号", 900}};
+constexpr auto picker_columns =
+    std::to_array<picker_column>({{u"text", u"短语", 7500}, {u"mid", u"编号", 900}});
 
 constexpr entity_description described{
     .view_no = u"v_smsm",

@@ -33,8 +33,8 @@ struct setting_option {
 /// What is done instead of serving.
 struct command {
     QStringView name;
-    task what;
-    bool takes_id;
+    task what = task::serve;
+    bool takes_id = false;
 };
 
 constexpr std::array commands{

@@ -5,10 +5,12 @@
 
 #include "operators/usermaintain.h"
 
+#include <array>
+
 namespace {
 
-constexpr picker_column picker_columns[]{{u"userid", u"编号", 900},
-                                         {u"username", u"操作员名称", 3000}};
+constexpr auto picker_columns =
+    std::to_array<picker_column>({{u"userid", u"编号", 900}, {u"username", u"操作员名称", 3000}});
 
 constexpr entity_description described{.view_no = u"VUsers",
                                        .id_column = u"userid",
